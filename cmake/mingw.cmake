@@ -1,0 +1,8 @@
+# Common to both Windows toolchains: the posix-threads flavour of mingw-w64.
+set(CMAKE_C_COMPILER ${NERIDA_MINGW}-gcc-posix)
+set(CMAKE_CXX_COMPILER ${NERIDA_MINGW}-g++-posix)
+set(CMAKE_RC_COMPILER ${NERIDA_MINGW}-windres)
+set(CMAKE_FIND_ROOT_PATH /usr/${NERIDA_MINGW})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
