@@ -1,0 +1,44 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/control.h"
+
+namespace nerida {
+
+// A bar of image buttons, drawn out of a bitmap resource file. It holds named layouts ("Default", "Enabled", …) and
+// shows one of them at a time.
+class ButtonBar : public Control {
+ public:
+  // The settings that are made before buttons are added.
+  virtual void setEnabled(bool enabled) = 0;
+  virtual void setResourceFolder(const std::string& folder) = 0;
+  virtual void setShowsTooltips(bool shows) = 0;
+  virtual void setResourceFile(const std::string& fileName) = 0;
+
+  // Opens a layout for adding buttons, creating it if the bar has none of that name.
+  virtual void openLayout(const std::string& name) = 0;
+  // Adds a button to the open layout: key, and bitmap spec "kind, file, left, top[, width, height]" (pixels at 96 dpi;
+  // blanks do not count; width and height default to 23 by 22). A spec whose picture is missing gives a button
+  // without one. Error 5 when the spec has no kind or the key is already in the layout.
+  virtual void addButton(const std::string& key, const std::string& bitmapSpec) = 0;
+  // Of the button just added.
+  virtual void setTooltip(const std::string& text) = 0;
+  virtual void setCaption(const std::string& text) = 0;
+  virtual void recomputeLayout() = 0;
+  // Error 5 when the bar has no layout of that name.
+  virtual void showLayout(const std::string& name) = 0;
+
+  // 0 up, 2 down (latched); searched in every layout. An unknown key changes nothing. Never raises a press.
+  virtual void setState(const std::string& key, int state, bool redraw) = 0;
+
+  // The left button came up inside the button in which it had gone down, or the keyboard or an assistive tool pressed
+  // it. Kind-6 buttons do not latch by themselves.
+  std::function<void(const std::string& key)> buttonPress;
+};
+
+inline constexpr int buttonUp = 0;
+inline constexpr int buttonDown = 2;
+
+}  // namespace nerida

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/units.h"
+
+namespace nerida {
+
+// System colours that drawings use, so that they follow the desktop's colour scheme.
+enum class SystemColor { buttonFace = 15, buttonShadow = 16, buttonHighlight = 20 };
+
+// Where a picture box draws itself: straight lines and boxes, in twips from its top-left corner.
+class Canvas {
+ public:
+  virtual ~Canvas() = default;
+  // One pixel wide; the end point is drawn too.
+  virtual void line(Twips x1, Twips y1, Twips x2, Twips y2, SystemColor color) = 0;
+  virtual void box(Twips x1, Twips y1, Twips x2, Twips y2, SystemColor color) = 0;
+  virtual void filledBox(Twips x1, Twips y1, Twips x2, Twips y2, SystemColor color) = 0;
+};
+
+}  // namespace nerida

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <exception>
+#include <string>
+
+namespace nerida {
+
+// Run-time error numbers that the library raises or tells apart. Failures of the outside world are translated to
+// these by the platform, so that every room above sees one kind of failure.
+namespace error {
+inline constexpr std::int32_t invalidCall = 5;
+inline constexpr std::int32_t overflow = 6;
+inline constexpr std::int32_t outOfMemory = 7;
+inline constexpr std::int32_t subscriptOutOfRange = 9;
+inline constexpr std::int32_t typeMismatch = 13;
+inline constexpr std::int32_t fileNotFound = 53;
+inline constexpr std::int32_t objectNotSet = 91;
+inline constexpr std::int32_t cannotCreateObject = 429;
+inline constexpr std::int32_t noInterface = 430;
+inline constexpr std::int32_t noSuchMember = 438;
+inline constexpr std::int32_t notImplemented = 445;
+inline constexpr std::int32_t argumentNotOptional = 449;
+inline constexpr std::int32_t wrongArgumentCount = 450;
+}  // namespace error
+
+// The standard text of an error number; "Automation error" for numbers that have none of their own.
+std::string standardErrorText(std::int32_t number);
+
+// A failed operation: a run-time error number and its description. The only exception type of the library.
+class Error : public std::exception {
+ public:
+  explicit Error(std::int32_t number) : Error(number, standardErrorText(number)) {}
+  Error(std::int32_t number, std::string description) : number(number), description(std::move(description)) {}
+
+  const char* what() const noexcept override { return description.c_str(); }
+
+  std::int32_t number;
+  std::string description;
+};
+
+}  // namespace nerida

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+namespace nerida {
+
+enum class PromptButtons { ok = 0, retryCancel = 5 };
+enum class PromptAnswer { ok = 1, cancel = 2, retry = 4 };
+
+// Everything that waits for a person.
+class Prompts {
+ public:
+  virtual ~Prompts() = default;
+  // A modal message box without an icon. An empty title shows the library's own name.
+  virtual PromptAnswer messageBox(const std::string& text, PromptButtons buttons, const std::string& title) = 0;
+};
+
+}  // namespace nerida
