@@ -37,6 +37,7 @@ class Window {
   virtual void setCaption(const std::string& text) = 0;
   virtual void setHeight(Twips height) = 0;  // of the whole window; the top edge stays
   virtual Size sizeInPixels() const = 0;     // of the whole window
+  virtual Point position() const = 0;        // screen pixels of the whole window's top-left corner
   virtual Point clientOrigin() const = 0;    // screen pixels of the client area's top-left corner
 
   // Place topmost, show and activate; the size stays. Without a point the place stays too.

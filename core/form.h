@@ -1,0 +1,71 @@
+#pragma once
+
+#include <memory>
+
+#include "core/messages.h"
+#include "core/state.h"
+#include "core/trap.h"
+#include "platform/window.h"
+
+namespace nerida {
+
+// A window of the library with its program. One instance of each lives as long as the library; its window comes with
+// load() and goes with unload().
+class Form {
+ public:
+  Form(State& state, WindowFactory& windows, const FormLayout& layout, int index);
+  virtual ~Form() = default;
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  // Creates the hidden window and runs Form_Load. On a loaded form it only marks the form as loaded again, if its load
+  // had come to its end. Error 91 when no control lives any more; 7 when there can be no window.
+  void load();
+  // Form_QueryUnload, Form_Unload, and the window is gone. Nothing on a form that is not loaded. Never fails.
+  void unload();
+  bool isLoaded() const { return currentWindow != nullptr; }
+  // The window's real visibility; false when not loaded.
+  bool isVisible() const { return isLoaded() && currentWindow->isVisible(); }
+  // Touching the handle loads the form.
+  WindowHandle hWnd() { return window().handle(); }
+
+  // Closes the form in its own way, telling the model or the toolbar.
+  virtual void HideSelf() = 0;
+
+  // Of the bare window, telling nobody: for the time in which another application is in front.
+  void hideWindow();
+  void showWindowTopmost() { window().showTopmost(); }
+
+ protected:
+  virtual void Form_Load() = 0;
+  virtual void Form_QueryUnload() {}
+  virtual void Form_Unload() {}
+
+  // The window, loaded if need be, as touching any control of a form loads it.
+  Window& window();
+
+  void markLoaded();
+  void markUnloaded();
+  void markShown(bool shown) { state.gFormShown[static_cast<std::size_t>(index)] = shown; }
+  bool isMarkedShown() const { return state.gFormShown[static_cast<std::size_t>(index)]; }
+
+  // Runs an event handler: a failure ends it and is reported, unless the form went away under it.
+  template <class Body>
+  void handle(Messages& messages, Body&& body) {
+    const Window* before = currentWindow.get();
+    trap(body, [&](const Error& failure) {
+      if (currentWindow.get() == before) messages.report(failure);
+    });
+  }
+
+  State& state;
+
+ private:
+  WindowFactory& windows;
+  const FormLayout& layout;
+  int index;
+  bool loadCompleted = false;
+  std::shared_ptr<Window> currentWindow;
+};
+
+}  // namespace nerida

@@ -1,0 +1,20 @@
+#include "popups/color_palette.h"
+
+#include "popups/popup_layouts.h"
+
+namespace nerida {
+
+ColorPalette::ColorPalette(State& state, WindowFactory& windows, PopupOpener& opener, const PaletteRole& role)
+    : Popup(state, windows, paletteLayout, role.index, opener), role(role) {}
+
+void ColorPalette::HideSelf() {
+  if (closing) return;
+  closing = true;
+  hideWindow();
+  markShown(false);
+  opener.KillChild();
+  opener.takeForeground();
+  opener.releaseButton(role.buttonKey);
+}
+
+}  // namespace nerida

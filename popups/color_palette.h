@@ -1,0 +1,28 @@
+#pragma once
+
+#include "popups/popup.h"
+
+namespace nerida {
+
+// In what the three palettes differ.
+struct PaletteRole {
+  int index;
+  const char* buttonKey;  // of the toolbar button that opens the palette
+};
+
+inline constexpr PaletteRole backgroundRole{backgroundColorsIndex, "Background"};
+inline constexpr PaletteRole lineRole{lineColorsIndex, "LineColorFill"};
+inline constexpr PaletteRole surfaceRole{surfaceColorsIndex, "SurfaceColorFill"};
+
+// The colour palette: frmBackgroundColors, frmLineColors and frmSurfaceColors are its three instances.
+class ColorPalette : public Popup {
+ public:
+  ColorPalette(State& state, WindowFactory& windows, PopupOpener& opener, const PaletteRole& role);
+
+  void HideSelf() override;
+
+ private:
+  const PaletteRole& role;
+};
+
+}  // namespace nerida

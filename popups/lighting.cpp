@@ -1,0 +1,20 @@
+#include "popups/lighting.h"
+
+#include "popups/popup_layouts.h"
+
+namespace nerida {
+
+frmLighting::frmLighting(State& state, WindowFactory& windows, PopupOpener& opener)
+    : Popup(state, windows, lightingLayout, lightingIndex, opener) {}
+
+void frmLighting::HideSelf() {
+  if (closing) return;
+  hideWindow();
+  opener.KillChild();
+  opener.takeForeground();
+  opener.releaseButton("Lighting");
+  markShown(false);
+  closing = true;
+}
+
+}  // namespace nerida

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "popups/popup.h"
+
+namespace nerida {
+
+// The picker of the light's direction and its switch.
+class frmLighting : public Popup {
+ public:
+  frmLighting(State& state, WindowFactory& windows, PopupOpener& opener);
+
+  void HideSelf() override;
+};
+
+}  // namespace nerida

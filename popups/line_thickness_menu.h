@@ -1,0 +1,15 @@
+#pragma once
+
+#include "popups/popup.h"
+
+namespace nerida {
+
+// The menu of line thicknesses.
+class frmLineThicknessMenu : public Popup {
+ public:
+  frmLineThicknessMenu(State& state, WindowFactory& windows, PopupOpener& opener);
+
+  void HideSelf() override;
+};
+
+}  // namespace nerida

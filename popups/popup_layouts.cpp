@@ -1,0 +1,20 @@
+#include "popups/popup_layouts.h"
+
+#include <array>
+
+namespace nerida {
+namespace {
+
+constexpr std::array animationControls{
+    ControlLayout{
+        "txtFrame", 0, ControlKind::textBox, {{1170}, {60}, {600}, {300}}, "", "Frame number"},
+};
+
+}  // namespace
+
+const FormLayout paletteLayout{"frmColors", "", FormFrame::popup, {2400}, {2850}, {}};
+const FormLayout lineThicknessLayout{"frmLineThicknessMenu", "", FormFrame::popup, {1200}, {1500}, {}};
+const FormLayout lightingLayout{"frmLighting", "", FormFrame::popup, {1800}, {1500}, {}};
+const FormLayout animationLayout{"frmAnimation", "", FormFrame::popup, {2940}, {480}, animationControls};
+
+}  // namespace nerida

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/form_layout.h"
+
+namespace nerida {
+
+extern const FormLayout paletteLayout;
+extern const FormLayout lineThicknessLayout;
+extern const FormLayout lightingLayout;
+extern const FormLayout animationLayout;
+
+}  // namespace nerida
