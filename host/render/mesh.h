@@ -8,7 +8,7 @@
 
 namespace nerida {
 
-/// Straight (not linear-light) colours, top row first; width and height are at least 1.
+/// Linear light, 0 to 1, top row first; width and height are at least 1. It repeats in both directions.
 struct Texture {
   int width = 0;
   int height = 0;
@@ -16,7 +16,7 @@ struct Texture {
 };
 
 struct Material {
-  Vec3 color{0.8F, 0.8F, 0.8F};
+  Vec3 color{0.6F, 0.6F, 0.6F};  ///< linear light
   bool doubleSided = false;
   std::shared_ptr<const Texture> texture;
 };
@@ -32,7 +32,8 @@ struct Edge {
 
   std::uint32_t from = 0, to = 0;
   std::uint32_t firstFace = none, secondFace = none;
-  bool crease = false;
+  bool crease = false;  ///< a hard edge of the shape
+  bool flat = false;    ///< both faces lie in one plane: an accident of cutting into triangles
 };
 
 /// What the renderer draws: Y up, Z towards the viewer, counter-clockwise triangles face outwards.
@@ -41,14 +42,13 @@ struct Mesh {
   std::vector<Vec3> positions;
   std::vector<Vec3> normals;
   std::vector<Vec2> textureCoordinates;  ///< empty, or one for each position
-  std::vector<Vec3> colors;              ///< empty, or one for each position
+  std::vector<Vec3> colors;              ///< empty, or one for each position; they filter the material's colour
   std::vector<Triangle> triangles;
   std::vector<Material> materials;
   std::vector<Edge> edges;
 };
 
 /// Finds the edges of `mesh` once, for all its poses: vertices at the same place count as one.
-/// An edge is a crease where its two faces, at rest, differ by more than `creaseDegrees`.
-void findEdges(Mesh& mesh, float creaseDegrees = 35.0F);
+void findEdges(Mesh& mesh);
 
 }  // namespace nerida
