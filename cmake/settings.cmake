@@ -6,7 +6,7 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 option(NERIDA_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
 
 add_library(nerida_warnings INTERFACE)
-target_compile_options(nerida_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor
+target_compile_options(nerida_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow=local -Wconversion -Wnon-virtual-dtor
                        -Woverloaded-virtual -Werror)
 
 if(NERIDA_SANITIZE)
