@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/desktop.h"
+
+namespace nerida {
+
+class WindowsDesktop : public Desktop {
+ public:
+  double twipsPerPixelX() override;
+  double twipsPerPixelY() override;
+  Size screenSize() override;
+  void setMousePointer(MousePointer pointer) override;
+  Point screenToClient(WindowHandle window, Point screen) override;
+  void setForegroundWindow(WindowHandle window) override;
+};
+
+}  // namespace nerida

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/prompts.h"
+
+namespace nerida {
+
+class WindowsPrompts : public Prompts {
+ public:
+  PromptAnswer messageBox(const std::string& text, PromptButtons buttons, const std::string& title) override;
+};
+
+}  // namespace nerida

@@ -1,0 +1,79 @@
+#include "platform/win32/registry.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <array>
+
+#include "platform/win32/registry_handle.h"
+#include "platform/win32/text.h"
+
+namespace nerida {
+namespace {
+
+constexpr DWORD nameCapacity = 256;  // characters, with the closing NUL
+constexpr DWORD dataCapacity = 256;  // bytes in the system's code page, with the closing NUL where there is one
+
+using DataBuffer = std::array<BYTE, dataCapacity * sizeof(wchar_t)>;
+
+bool isText(DWORD type) { return type == REG_SZ || type == REG_EXPAND_SZ || type == REG_MULTI_SZ; }
+
+std::wstring fromCodePage(const BYTE* bytes, DWORD size) {
+  const auto* text = reinterpret_cast<const char*>(bytes);
+  const int needed = MultiByteToWideChar(CP_ACP, 0, text, static_cast<int>(size), nullptr, 0);
+  std::wstring result(static_cast<std::size_t>(needed), L'\0');
+  MultiByteToWideChar(CP_ACP, 0, text, static_cast<int>(size), result.data(), needed);
+  return result;
+}
+
+std::wstring dataText(DWORD type, const DataBuffer& data, DWORD size) {
+  if (!isText(type)) return fromCodePage(data.data(), size);
+  return std::wstring(reinterpret_cast<const wchar_t*>(data.data()), size / sizeof(wchar_t));
+}
+
+// The size that the data has in the code page, which is what the capacity is about.
+DWORD dataSize(DWORD type, const std::wstring& text, DWORD size) {
+  if (!isText(type) || text.empty()) return size;
+  const int length = static_cast<int>(text.size());
+  return static_cast<DWORD>(WideCharToMultiByte(CP_ACP, 0, text.data(), length, nullptr, 0, nullptr, nullptr));
+}
+
+class WindowsRegistryKey : public RegistryKey {
+ public:
+  explicit WindowsRegistryKey(RegistryHandle key) : key(std::move(key)) {}
+
+  std::unique_ptr<RegistryKey> open(const std::string& name, long& status) override {
+    RegistryHandle child;
+    status = RegOpenKeyExW(key.get(), wide(name).c_str(), 0, KEY_READ | KEY_WOW64_32KEY, child.put());
+    if (status != ERROR_SUCCESS) return nullptr;
+    return std::make_unique<WindowsRegistryKey>(std::move(child));
+  }
+
+  std::optional<RegistryValue> value(int index, long& status) override {
+    std::array<wchar_t, nameCapacity> name;
+    DWORD nameLength = nameCapacity;
+    DataBuffer data;
+    DWORD size = data.size();
+    DWORD type = REG_NONE;
+    status = RegEnumValueW(key.get(), static_cast<DWORD>(index), name.data(), &nameLength, nullptr, &type, data.data(),
+                           &size);
+    if (status != ERROR_SUCCESS) return std::nullopt;
+    const std::wstring text = dataText(type, data, size);
+    if (dataSize(type, text, size) > dataCapacity) {
+      status = ERROR_MORE_DATA;
+      return std::nullopt;
+    }
+    return RegistryValue{utf8({name.data(), nameLength}), utf8(text.substr(0, text.find(L'\0')))};
+  }
+
+ private:
+  RegistryHandle key;
+};
+
+}  // namespace
+
+std::unique_ptr<RegistryKey> WindowsRegistry::openLocalMachine() {
+  return std::make_unique<WindowsRegistryKey>(RegistryHandle(HKEY_LOCAL_MACHINE));
+}
+
+}  // namespace nerida
