@@ -49,6 +49,8 @@ class NeridaWindow {
   void loadForms();
   void registerForms();
   void UnloadAllForms();
+  void unloadLeftovers();
+  void releaseModel();
 
   Library& library;
 };

@@ -35,6 +35,7 @@ class Form {
   // Of the bare window, telling nobody: for the time in which another application is in front.
   void hideWindow();
   void showWindowTopmost() { window().showTopmost(); }
+  void placeTopmost(Point topLeft) { window().showTopmostAt(topLeft); }
 
  protected:
   virtual void Form_Load() = 0;
@@ -43,11 +44,12 @@ class Form {
 
   // The window, loaded if need be, as touching any control of a form loads it.
   Window& window();
+  // Keeps the window object alive where its form may be unloaded meanwhile.
+  std::shared_ptr<Window> sharedWindow() const { return currentWindow; }
 
   void markLoaded();
   void markUnloaded();
   void markShown(bool shown) { state.gFormShown[static_cast<std::size_t>(index)] = shown; }
-  bool isMarkedShown() const { return state.gFormShown[static_cast<std::size_t>(index)]; }
 
   // Runs an event handler: a failure ends it and is reported, unless the form went away under it.
   template <class Body>

@@ -26,6 +26,7 @@ inline constexpr int formCount = 11;
 // The library's state, shared by all forms. Data only. One user-interface thread reads and writes it.
 struct State {
   int controls = 0;  // living controls; without one no form can be loaded
+  int bindings = 0;  // raised whenever the model is bound or let go, so that a call under way can tell
   ObjectRef gModelObject;      // the embedded object; every form calls the model only through this reference
   WindowHandle gHostWnd = 0;   // the host's window, origin of the toolbar's default place
   std::array<Form*, formCount> gForms{};       // borrowed: the library owns its forms

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "platform/form_layout.h"
+
+namespace nerida {
+
+extern const FormLayout browserLayout;
+
+}  // namespace nerida

@@ -1,0 +1,123 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "core/catalog_window.h"
+#include "core/form.h"
+#include "core/model_object.h"
+#include "core/paths.h"
+#include "platform/desktop.h"
+#include "popups/animation.h"
+#include "popups/color_table.h"
+#include "popups/popup_opener.h"
+
+namespace nerida {
+
+// The floating editing toolbar. Its program lies in four rooms: toolbar_form (building and InitSelf),
+// toolbar_movement, toolbar_style and toolbar_lifecycle.
+class frmToolbar : public Form, public PopupOpener {
+ public:
+  frmToolbar(State& state, WindowFactory& windows, Desktop& desktop, const Paths& paths, Messages& messages);
+
+  // The windows that the toolbar opens, and its window procedure; known once the library is put together.
+  struct Neighbours {
+    frmAnimation* animation = nullptr;
+    CatalogWindow* catalog = nullptr;
+    WindowProcedure windowProcedure;
+  };
+  void connect(Neighbours neighbours) { this->neighbours = std::move(neighbours); }
+  // Called when the form unloads.
+  std::function<void()> unloading;
+
+  // Adapts the form to the model. Raises the model's errors.
+  void InitSelf();
+  // Fills cmbStyles from the model. A failure is shown.
+  void GetLookStyleList();
+
+  void ShowSelf();
+  void HideSelf() override;
+  void SetCallback();
+  void RestoreCallback();
+  void NudgeToggle(bool on);
+  void setCaptionFor(const std::string& modelName);
+  // Hands a message to the procedure that was in place before SetCallback.
+  std::intptr_t callPrevious(const Message& message) { return window().callPrevious(message); }
+  // The mark that the lighting popup is up, cleared when the application loses the focus.
+  void clearLightingMark() { openMarks.lighting = false; }
+
+  void KillChild() override;
+  void releaseButton(const std::string& key) override;
+  void takeForeground() override;
+
+  // Told by a popup after a choice: sets the marks of all five popups.
+  void afterChoice(std::int16_t open);
+
+ protected:
+  void Form_Load() override;
+  void Form_QueryUnload() override;
+  void Form_Unload() override;
+
+ private:
+  static constexpr int styleBars = 4;
+  static constexpr int worldBars = 3;
+  static constexpr int moveBars = 4;
+
+  // Which of the toolbar's popups is up.
+  struct OpenMarks {
+    bool lineThickness = false;
+    bool lineColor = false;
+    bool fillColor = false;
+    bool background = false;
+    bool lighting = false;
+  };
+
+  void resetState();
+  void connectEvents();
+  void buildBars();
+  ButtonBar& bar(const char* name, int index) { return window().buttonBar(name, index); }
+  void makeSettings(const char* bar, int index);
+  void addButtons(const char* bar, int index);
+  void showDefault(const char* bar, int index) { this->bar(bar, index).showLayout("Default"); }
+
+  void showEither(bool button, const char* swatch, int styleBar);
+  void showAnimationState();
+  void selectCurrentStyle();
+  int styleEntry(const std::string& name);
+  void applyChosenStyle();
+
+  void hideWithPopups();
+
+  void barMB_ButtonPress(const std::string& key);
+  void barWorld_ButtonPress(const std::string& key);
+  void barMove_ButtonPress(const std::string& key);
+  void openPresetMenu();
+  void mnuReset_Click(int index);
+  void cmbStyles_Click();
+  void Form_Activate() { ++activations; }
+  void Form_Deactivate() { --activations; }
+  void Form_Click() { openMarks = {}; }
+
+  ModelObject model;
+  Desktop& desktop;
+  const Paths& paths;
+  Messages& messages;
+  Neighbours neighbours;
+
+  Rgb CustomSurfaceColor = 0;
+  Rgb CustomLineColor = 0;
+  Rgb CustomBackColor = 0;
+  std::int32_t NudgeAmount = 0;
+  std::int16_t OpenChild = 0;
+  OpenMarks openMarks;
+  bool NudgeOn = false;
+  std::int32_t activations = 0;
+  bool Initialising = false;
+  bool LineThicknessEnabled = false;
+  bool hiding = false;
+  std::vector<std::string> lookStyles;
+};
+
+}  // namespace nerida
