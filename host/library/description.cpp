@@ -1,0 +1,239 @@
+#include "host/library/description.h"
+
+#include <algorithm>
+#include <cmath>
+#include <fstream>
+#include <limits>
+
+#include "host/library/described_shapes.h"
+#include "host/library/motion.h"
+
+namespace nerida::library {
+namespace {
+
+using nlohmann::json;
+
+constexpr double defaultCrease = 40;
+constexpr int deepestNesting = 32;
+constexpr int mostCopies = 1000;
+
+double linearOfByte(int value) {
+  const double v = value / 255.0;
+  return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+}
+
+Paint paintOf(const std::string& name, const json& value, const std::string& where) {
+  Paint paint;
+  paint.name = name;
+  std::string color;
+  if (value.is_string()) {
+    color = value.get<std::string>();
+  } else {
+    Fields fields(value, where + ", material " + name);
+    color = fields.text("color");
+    paint.doubleSided = fields.flag("doubleSided", false);
+    fields.close();
+  }
+  const bool fits =
+      color.size() == 7 && color[0] == '#' && color.find_first_not_of("0123456789abcdefABCDEF", 1) == std::string::npos;
+  if (!fits) throw LibraryError(where + ": the colour of " + name + " must look like #3366cc");
+  const auto channel = [&](std::size_t at) { return linearOfByte(std::stoi(color.substr(at, 2), nullptr, 16)); };
+  paint.red = channel(1);
+  paint.green = channel(3);
+  paint.blue = channel(5);
+  return paint;
+}
+
+class Builder {
+ public:
+  Builder(BuiltModel& target, const json& definitions, std::string where)
+      : model(target), shapes(definitions), place(std::move(where)) {}
+
+  void addParts(const json& parts, const Transform& placement, std::size_t paint, Node& into) {
+    if (!parts.is_array()) throw LibraryError(place + ": \"parts\" must be a list");
+    if (++depth > deepestNesting) throw LibraryError(place + ": parts are nested too deeply");
+    for (const json& part : parts) addPart(part, placement, paint, into);
+    --depth;
+  }
+
+ private:
+  struct Part {
+    std::string name;
+    std::size_t paint = 0;
+    Vec at, size;
+    Quaternion turn;
+    std::vector<Transform> copies;
+    std::optional<Mesh> shape;
+    double crease = defaultCrease;
+    const json* animate = nullptr;
+    const json* parts = nullptr;
+    const json* used = nullptr;
+  };
+
+  void addPart(const json& source, const Transform& placement, std::size_t paint, Node& into) {
+    const Part part = read(source, paint);
+    for (const Transform& copy : part.copies) {
+      if (part.animate) {
+        addMoving(part, placement * copy, into);
+      } else {
+        const Transform own = Transform::shift(part.at) * Transform::turn(part.turn) * Transform::scale(part.size);
+        fill(part, placement * copy * own, into);
+      }
+    }
+  }
+
+  void addMoving(const Part& part, const Transform& placement, Node& into) {
+    Node node;
+    node.name = part.name;
+    node.placement = placement;
+    node.motion = describedMotion(*part.animate, place + ", part " + part.name, model.frames, part.at, part.turn);
+    fill(part, Transform::scale(part.size), node);
+    into.children.push_back(std::move(node));
+  }
+
+  void fill(const Part& part, const Transform& placement, Node& into) {
+    if (part.shape) {
+      Mesh mesh = *part.shape;
+      mesh.map(placement);
+      into.surfaces[part.paint].append(withNormals(mesh, part.crease));
+    }
+    if (part.parts) addParts(*part.parts, placement, part.paint, into);
+    if (part.used) addParts(*part.used, placement, part.paint, into);
+  }
+
+  Part read(const json& source, std::size_t inheritedPaint) {
+    const std::string name = source.is_object() ? source.value("name", std::string("part")) : "part";
+    Fields fields(source, place + ", part " + name);
+    Part part;
+    part.name = fields.text("name", "part");
+    part.paint = fields.has("material") ? paintNamed(fields) : inheritedPaint;
+    part.at = fields.vec("at", {});
+    part.turn = quaternionOfTurn(fields.vec("turn", {}));
+    part.size = sizeOf(fields);
+    part.copies = copiesOf(fields);
+    part.crease = fields.number("crease", defaultCrease);
+    part.shape = describedShape(fields);
+    if (fields.has("animate")) part.animate = &fields.raw("animate");
+    if (fields.has("parts")) part.parts = &fields.raw("parts");
+    if (fields.has("use")) part.used = &definition(fields);
+    fields.close();
+    if (!part.shape && !part.parts && !part.used) fields.fail("it has neither a shape nor parts");
+    return part;
+  }
+
+  std::size_t paintNamed(Fields& fields) const {
+    const std::string name = fields.text("material");
+    const auto found = std::ranges::find(model.paints, name, &Paint::name);
+    if (found == model.paints.end()) fields.fail("there is no material " + name);
+    return static_cast<std::size_t>(found - model.paints.begin());
+  }
+
+  const json& definition(Fields& fields) const {
+    const std::string name = fields.text("use");
+    if (!shapes.contains(name)) fields.fail("there is no definition " + name);
+    return shapes[name];
+  }
+
+  static Vec sizeOf(Fields& fields) {
+    if (!fields.has("size")) return {1, 1, 1};
+    if (fields.raw("size").is_array()) return fields.vec("size", {});
+    const double all = fields.number("size");
+    return {all, all, all};
+  }
+
+  static std::vector<Transform> copiesOf(Fields& fields) {
+    std::vector<Transform> copies{Transform{}};
+    if (fields.has("repeat")) {
+      Fields repeat(fields.raw("repeat"), "repeat");
+      const int count = repeat.integer("count", 0);
+      if (count < 1 || count > mostCopies) repeat.fail("\"count\" must be 1 to 1000");
+      const Transform step =
+          Transform::shift(repeat.vec("move", {})) * Transform::turn(quaternionOfTurn(repeat.vec("turn", {})));
+      repeat.close();
+      while (static_cast<int>(copies.size()) < count) copies.push_back(step * copies.back());
+    }
+    if (fields.has("mirror")) {
+      const std::string axis = fields.text("mirror");
+      if (axis != "x" && axis != "y" && axis != "z") fields.fail("\"mirror\" must be x, y or z");
+      const Transform mirror =
+          Transform::scale({axis == "x" ? -1.0 : 1.0, axis == "y" ? -1.0 : 1.0, axis == "z" ? -1.0 : 1.0});
+      for (std::size_t i = 0, count = copies.size(); i < count; ++i) copies.push_back(mirror * copies[i]);
+    }
+    return copies;
+  }
+
+  BuiltModel& model;
+  const json& shapes;
+  std::string place;
+  int depth = 0;
+};
+
+ModelCard cardOf(Fields& fields) {
+  ModelCard card;
+  card.number = fields.integer("number", -1);
+  if (card.number < 0) fields.fail("\"number\" must be 0 or more");
+  card.name = fields.text("name");
+  card.category = fields.text("category");
+  card.subcategory = fields.text("subcategory");
+  for (const json& word : fields.raw("keywords")) {
+    if (!word.is_string()) fields.fail("\"keywords\" must be a list of words");
+    card.keywords.push_back(word.get<std::string>());
+  }
+  return card;
+}
+
+/// Puts the middle of the model, over all its frames, into the origin and its farthest point at distance 1.
+void centre(BuiltModel& model) {
+  std::vector<Vec> points;
+  for (int frame = 0; frame < std::max(model.frames, 1); ++frame) {
+    collectPoints(model.root, {}, static_cast<std::size_t>(frame), points);
+  }
+  constexpr double far = std::numeric_limits<double>::max();
+  Vec low{far, far, far}, high{-far, -far, -far};
+  for (const Vec& p : points) {
+    low = {std::min(low.x, p.x), std::min(low.y, p.y), std::min(low.z, p.z)};
+    high = {std::max(high.x, p.x), std::max(high.y, p.y), std::max(high.z, p.z)};
+  }
+  const Vec middle = (low + high) * 0.5;
+  double radius = 0;
+  for (const Vec& p : points) radius = std::max(radius, length(p - middle));
+  const double scale = 1 / radius;
+  const Transform fit = Transform::scale({scale, scale, scale}) * Transform::shift(middle * -1);
+  for (auto& [paint, surface] : model.root.surfaces) {
+    for (Vec& point : surface.points) point = fit.apply(point);
+  }
+  for (Node& child : model.root.children) child.placement = fit * child.placement;
+}
+
+}  // namespace
+
+BuiltModel buildModel(const json& description, const std::string& where) {
+  Fields fields(description, where);
+  BuiltModel model;
+  model.card = cardOf(fields);
+  model.frames = fields.integer("frames", 0);
+  if (model.frames < 0 || model.frames > 10000) fields.fail("\"frames\" must be 0 to 10000");
+  model.framesPerSecond = fields.number("framesPerSecond", 24);
+  model.card.animated = model.frames > 0;
+  for (const auto& [name, value] : fields.raw("materials").items()) model.paints.push_back(paintOf(name, value, where));
+  if (model.paints.empty()) fields.fail("there are no materials");
+  const json none = json::object();
+  const json& shapes = fields.has("shapes") ? fields.raw("shapes") : none;
+  model.root.name = model.card.name;
+  Builder(model, shapes, where).addParts(fields.raw("parts"), {}, 0, model.root);
+  fields.close();
+  if (triangleCount(model.root) == 0) fields.fail("the model is empty");
+  centre(model);
+  return model;
+}
+
+BuiltModel buildModelFile(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  const std::string where = file.filename().string();
+  if (!stream) throw LibraryError(where + ": cannot be read");
+  const json description = json::parse(stream, nullptr, false, true);
+  if (description.is_discarded()) throw LibraryError(where + ": is not JSON");
+  return buildModel(description, where);
+}
+
+}  // namespace nerida::library

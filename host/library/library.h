@@ -1,0 +1,31 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "host/library/model.h"
+
+namespace nerida::library {
+
+/// The plain index at a library's root, one model per line, tab-separated:
+/// number, name, category, sub-category, "animated" or "still", keywords separated by commas.
+inline constexpr const char* indexFileName = "index.txt";
+
+/// Builds a model file for every description (*.json) in `descriptions` below `target`, and the index. Files that are
+/// right already are not written again; model files of other numbers stay. `progress` hears one line for each model.
+/// Throws LibraryError; then the index is as it was.
+void buildLibrary(const std::filesystem::path& descriptions, const std::filesystem::path& target,
+                  const std::function<void(const std::string&)>& progress);
+
+/// The cards of the index, by number. Throws LibraryError.
+std::vector<ModelCard> readIndex(const std::filesystem::path& library);
+
+/// Everything that is wrong with a library, one sentence each: unreadable, missing and surplus model files.
+std::vector<std::string> checkLibrary(const std::filesystem::path& library);
+
+/// Replaces a file's content in one step, or leaves it alone when the content is the same. Throws LibraryError.
+void writeFile(const std::filesystem::path& file, const std::string& bytes);
+
+}  // namespace nerida::library

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "host/library/geometry.h"
+
+namespace nerida::library {
+
+struct Paint {
+  std::string name;
+  double red = 0.6, green = 0.6, blue = 0.6;  ///< linear light
+  bool doubleSided = false;
+};
+
+/// How a node moves: one entry for each frame, both lists empty for a node that rests.
+struct Motion {
+  std::vector<Vec> places;
+  std::vector<Quaternion> turns;
+};
+
+struct Node {
+  std::string name;
+  Transform placement;  ///< of the resting frame in which the motion takes place
+  Motion motion;
+  std::map<std::size_t, Surface> surfaces;  ///< by paint
+  std::vector<Node> children;
+};
+
+/// What the catalog knows of a model.
+struct ModelCard {
+  std::int32_t number = 0;
+  std::string name, category, subcategory;
+  std::vector<std::string> keywords;
+  bool animated = false;
+};
+
+struct BuiltModel {
+  ModelCard card;
+  double framesPerSecond = 24;
+  int frames = 0;  ///< 0 = not animated
+  std::vector<Paint> paints;
+  Node root;
+};
+
+[[nodiscard]] std::size_t triangleCount(const Node& node);
+
+/// The corners of everything below `node`, in the pose of `frame`.
+void collectPoints(const Node& node, const Transform& above, std::size_t frame, std::vector<Vec>& points);
+
+}  // namespace nerida::library
