@@ -1,0 +1,57 @@
+#include "platform/headless/automation.h"
+
+namespace nerida::headless {
+namespace {
+
+struct Writer {
+  std::string operator()(std::monostate) const { return "Empty"; }
+  std::string operator()(Null) const { return "Null"; }
+  std::string operator()(bool value) const { return value ? "True" : "False"; }
+  std::string operator()(std::int16_t value) const { return std::to_string(value) + "%"; }
+  std::string operator()(std::int32_t value) const { return std::to_string(value) + "&"; }
+  std::string operator()(double value) const { return toText(value) + "#"; }
+  std::string operator()(const std::string& value) const { return '"' + value + '"'; }
+  std::string operator()(const ObjectRef&) const { return "Object"; }
+  std::string operator()(const std::shared_ptr<const Array>&) const { return "Array"; }
+};
+
+std::string written(const Argument& argument) {
+  return argument.variable ? "ByRef " + headless::written(*argument.variable) : headless::written(argument.value);
+}
+
+}  // namespace
+
+std::string written(const Value& value) { return std::visit(Writer{}, static_cast<const Value::variant&>(value)); }
+
+void ScriptedObject::enter(const std::string& member, const std::string& line) {
+  transcript.add("model: " + line);
+  if (const auto hook = hooks.find(member); hook != hooks.end()) hook->second();
+  if (const auto failure = failures.find(member); failure != failures.end()) throw failure->second;
+}
+
+Value ScriptedObject::get(const std::string& member) {
+  enter(member, member);
+  const auto value = values.find(member);
+  if (value == values.end()) throw Error(error::noSuchMember);
+  return value->second;
+}
+
+void ScriptedObject::let(const std::string& member, const Value& value) {
+  enter(member, member + " = " + headless::written(value));
+  const auto entry = values.find(member);
+  if (entry == values.end()) throw Error(error::noSuchMember);
+  entry->second = value;
+}
+
+Value ScriptedObject::call(const std::string& member, std::span<Argument> arguments) {
+  std::string line = member;
+  for (const Argument& argument : arguments) {
+    line += (&argument == arguments.data() ? " " : ", ") + written(argument);
+  }
+  enter(member, line);
+  const auto function = functions.find(member);
+  if (function == functions.end()) throw Error(error::noSuchMember);
+  return function->second ? function->second(arguments) : Value();
+}
+
+}  // namespace nerida::headless

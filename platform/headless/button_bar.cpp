@@ -1,0 +1,107 @@
+#include "platform/headless/button_bar.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "platform/error.h"
+
+namespace nerida::headless {
+
+void Bar::setVisible(bool value) {
+  visible = value;
+  note(value ? "visible" : "hidden");
+}
+
+void Bar::setEnabled(bool value) {
+  enabled = value;
+  note(value ? "enabled" : "disabled");
+}
+
+void Bar::setResourceFolder(const std::string& folder) {
+  resourceFolder = folder;
+  note("folder " + folder);
+}
+
+void Bar::setShowsTooltips(bool shows) {
+  showsTooltips = shows;
+  note(shows ? "tooltips on" : "tooltips off");
+}
+
+void Bar::setResourceFile(const std::string& fileName) {
+  resourceFile = fileName;
+  note("file " + fileName);
+}
+
+void Bar::openLayout(const std::string& layoutName) {
+  layouts[layoutName];
+  openedLayout = layoutName;
+  note("open " + layoutName);
+}
+
+void Bar::addButton(const std::string& key, const std::string& bitmapSpec) {
+  const BitmapSpec bitmap = parseBitmapSpec(bitmapSpec);
+  std::vector<Button>& buttons = layouts.at(openedLayout).buttons;
+  if (std::any_of(buttons.begin(), buttons.end(), [&](const Button& button) { return button.key == key; })) {
+    throw Error(error::invalidCall);
+  }
+  buttons.push_back({key, bitmapSpec, bitmap, "", "", buttonUp});
+  note("add " + key);
+}
+
+Bar::Button& Bar::lastAdded() { return layouts.at(openedLayout).buttons.back(); }
+
+void Bar::setTooltip(const std::string& text) {
+  lastAdded().tooltip = text;
+  note("tooltip " + text);
+}
+
+void Bar::setCaption(const std::string& text) {
+  lastAdded().caption = text;
+  note("caption " + text);
+}
+
+void Bar::recomputeLayout() {
+  layouts.at(openedLayout).laidOut = true;
+  note("lay out");
+}
+
+void Bar::showLayout(const std::string& layoutName) {
+  if (!layouts.contains(layoutName)) throw Error(error::invalidCall);
+  shownLayout = layoutName;
+  note("show " + layoutName);
+}
+
+void Bar::setState(const std::string& key, int state, bool) {
+  if (Button* found = find(key)) found->state = state;
+  note(key + " state " + std::to_string(state));
+}
+
+Bar::Button* Bar::find(const std::string& key) {
+  for (auto& [layoutName, layout] : layouts) {
+    for (Button& candidate : layout.buttons) {
+      if (candidate.key == key) return &candidate;
+    }
+  }
+  return nullptr;
+}
+
+void Bar::press(const std::string& key) {
+  const std::vector<Button>& shown = layouts.at(shownLayout).buttons;
+  const bool there = std::any_of(shown.begin(), shown.end(), [&](const Button& b) { return b.key == key; });
+  if (!there || !visible || !enabled) throw std::logic_error(name + " shows no button " + key);
+  if (buttonPress) buttonPress(key);
+}
+
+const Bar::Button& Bar::button(const std::string& key) const {
+  const Button* found = const_cast<Bar*>(this)->find(key);
+  if (!found) throw std::logic_error(name + " has no button " + key);
+  return *found;
+}
+
+std::vector<std::string> Bar::keys() const {
+  std::vector<std::string> result;
+  for (const Button& candidate : layouts.at(shownLayout).buttons) result.push_back(candidate.key);
+  return result;
+}
+
+}  // namespace nerida::headless

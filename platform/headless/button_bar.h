@@ -1,0 +1,71 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/button_bar.h"
+#include "platform/bitmap_spec.h"
+#include "platform/headless/transcript.h"
+
+namespace nerida::headless {
+
+// A bar whose buttons can be read and pressed.
+class Bar : public ButtonBar {
+ public:
+  struct Button {
+    std::string key;
+    std::string bitmapSpec;
+    BitmapSpec bitmap;
+    std::string tooltip;
+    std::string caption;
+    int state = buttonUp;
+  };
+  struct Layout {
+    std::vector<Button> buttons;
+    bool laidOut = false;
+  };
+
+  Bar(Transcript& transcript, std::string name, Bounds bounds)
+      : name(std::move(name)), transcript(transcript), place(bounds) {}
+
+  void setVisible(bool visible) override;
+  bool isVisible() const override { return visible; }
+  Bounds bounds() const override { return place; }
+  void setEnabled(bool value) override;
+  void setResourceFolder(const std::string& folder) override;
+  void setShowsTooltips(bool shows) override;
+  void setResourceFile(const std::string& fileName) override;
+  void openLayout(const std::string& layoutName) override;
+  void addButton(const std::string& key, const std::string& bitmapSpec) override;
+  void setTooltip(const std::string& text) override;
+  void setCaption(const std::string& text) override;
+  void recomputeLayout() override;
+  void showLayout(const std::string& layoutName) override;
+  void setState(const std::string& key, int state, bool redraw) override;
+
+  // The user presses a button of the layout that is shown. Pressing what is not there is a mistake of the test.
+  void press(const std::string& key);
+  const Button& button(const std::string& key) const;
+  std::vector<std::string> keys() const;
+
+  std::string name;  // with its index: "barLS(2)"
+  std::map<std::string, Layout> layouts;
+  std::string shownLayout;
+  std::string resourceFolder;
+  std::string resourceFile;
+  bool enabled = false;
+  bool showsTooltips = false;
+
+ private:
+  void note(const std::string& what) { transcript.add(name + ": " + what); }
+  Button& lastAdded();
+  Button* find(const std::string& key);
+
+  Transcript& transcript;
+  Bounds place;
+  std::string openedLayout;
+  bool visible = true;
+};
+
+}  // namespace nerida::headless

@@ -1,0 +1,50 @@
+#include "platform/headless/controls.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "platform/error.h"
+
+namespace nerida::headless {
+
+void Combo::clear() {
+  entries.clear();
+  selection = -1;
+  note("clear");
+}
+
+void Combo::addItem(const std::string& text) {
+  entries.push_back(text);
+  note("add " + text);
+}
+
+std::string Combo::item(int index) const {
+  if (index < 0 || index >= count()) throw Error(error::subscriptOutOfRange);
+  return entries[static_cast<std::size_t>(index)];
+}
+
+void Combo::select(int index) {
+  if (index < -1 || index >= count()) throw Error(error::subscriptOutOfRange);
+  if (index == selection) return;
+  selection = index;
+  note("select " + std::to_string(index));
+  if (click) click();
+}
+
+void Combo::choose(const std::string& text) {
+  const auto found = std::find(entries.begin(), entries.end(), text);
+  if (found == entries.end()) throw std::logic_error(name + " has no entry " + text);
+  select(static_cast<int>(found - entries.begin()));
+}
+
+void Text::setText(const std::string& value) {
+  content = value;
+  note("text " + value);
+}
+
+void Caption::setCaption(const std::string& value) {
+  caption = value;
+  note("caption " + value);
+}
+
+}  // namespace nerida::headless

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/canvas.h"
+#include "platform/control.h"
+#include "platform/headless/transcript.h"
+
+namespace nerida::headless {
+
+// What the headless controls share: a name, a place and a visible flag, written to the transcript when it is set.
+template <class Kind>
+class Basic : public Kind {
+ public:
+  Basic(Transcript& transcript, std::string name, Bounds bounds)
+      : name(std::move(name)), transcript(transcript), place(bounds) {}
+
+  void setVisible(bool value) override {
+    visible = value;
+    note(value ? "visible" : "hidden");
+  }
+  bool isVisible() const override { return visible; }
+  Bounds bounds() const override { return place; }
+
+  std::string name;
+
+ protected:
+  void note(const std::string& what) { transcript.add(name + ": " + what); }
+
+  Transcript& transcript;
+  Bounds place;
+  bool visible = true;
+};
+
+class Combo : public Basic<ComboBox> {
+ public:
+  using Basic::Basic;
+  void clear() override;
+  void addItem(const std::string& text) override;
+  int count() const override { return static_cast<int>(entries.size()); }
+  std::string item(int index) const override;
+  int selected() const override { return selection; }
+  void select(int index) override;
+
+  // The user opens the list and picks an entry by its text.
+  void choose(const std::string& text);
+
+  std::vector<std::string> entries;
+
+ private:
+  int selection = -1;
+};
+
+class Text : public Basic<TextBox> {
+ public:
+  using Basic::Basic;
+  std::string text() const override { return content; }
+  void setText(const std::string& value) override;
+
+  std::string content;
+};
+
+class Picture : public Basic<PictureBox> {
+ public:
+  using Basic::Basic;
+  void repaint() override { note("repaint"); }
+};
+
+class Caption : public Basic<Label> {
+ public:
+  using Basic::Basic;
+  void setCaption(const std::string& value) override;
+
+  std::string caption;
+};
+
+}  // namespace nerida::headless

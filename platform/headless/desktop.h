@@ -1,0 +1,33 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/desktop.h"
+#include "platform/headless/transcript.h"
+
+namespace nerida::headless {
+
+class Screen : public Desktop {
+ public:
+  explicit Screen(Transcript& transcript) : transcript(transcript) {}
+
+  double twipsPerPixelX() override { return horizontal(); }
+  double twipsPerPixelY() override { return vertical(); }
+  Size screenSize() override { return size; }
+  void setMousePointer(MousePointer value) override;
+  Point screenToClient(WindowHandle window, Point screen) override;
+  void setForegroundWindow(WindowHandle window) override;
+
+  std::function<double()> horizontal = [] { return 15.0; };
+  std::function<double()> vertical = [] { return 15.0; };
+  Size size{1024, 768};
+  MousePointer pointer = MousePointer::standard;
+  WindowHandle hostWindow = 7;  // the one window of others that exists
+  Point hostClientCorner;       // its client area on the screen
+
+ private:
+  Transcript& transcript;
+};
+
+}  // namespace nerida::headless

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/headless/automation.h"
+#include "platform/headless/desktop.h"
+#include "platform/headless/prompts.h"
+#include "platform/headless/registry.h"
+#include "platform/headless/settings.h"
+#include "platform/headless/shell.h"
+#include "platform/headless/transcript.h"
+#include "platform/headless/window.h"
+#include "platform/platform.h"
+
+namespace nerida::headless {
+
+// A whole headless side, with one transcript.
+struct HeadlessPlatform {
+  Transcript transcript;
+  Screen screen{transcript};
+  Windows windows{transcript};
+  Boxes boxes{transcript};
+  MemoryRegistry registry;
+  MemorySettings settings;
+  RecordingShell shell{transcript};
+
+  Platform services() { return {screen, windows, boxes, registry, settings, shell}; }
+};
+
+}  // namespace nerida::headless

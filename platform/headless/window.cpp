@@ -1,0 +1,183 @@
+#include "platform/headless/window.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "platform/error.h"
+#include "platform/headless/prompts.h"
+
+namespace nerida::headless {
+namespace {
+
+std::string indexed(const ControlLayout& control, bool inArray) {
+  return inArray ? std::string(control.name) + "(" + std::to_string(control.index) + ")" : std::string(control.name);
+}
+
+bool isInArray(const FormLayout& layout, const ControlLayout& control) {
+  return std::count_if(layout.controls.begin(), layout.controls.end(), [&](const ControlLayout& other) {
+           return std::string_view(other.name) == control.name;
+         }) > 1;
+}
+
+std::string written(Point point) { return "(" + std::to_string(point.x) + ", " + std::to_string(point.y) + ")"; }
+
+}  // namespace
+
+FormWindow::FormWindow(Windows& windows, const FormLayout& layout, WindowHandle handle)
+    : caption(layout.caption), height(layout.height), layout(layout), windows(windows), number(handle) {
+  createControls();
+  windows.living.push_back(this);
+  note("load");
+}
+
+FormWindow::~FormWindow() {
+  if (windows.active == this) windows.active = nullptr;
+  std::erase(windows.living, this);
+  note("unload");
+}
+
+void FormWindow::createControls() {
+  for (const ControlLayout& control : layout.controls) {
+    const std::string name = indexed(control, isInArray(layout, control));
+    const std::pair key(std::string(control.name), control.index);
+    switch (control.kind) {
+      case ControlKind::buttonBar:
+        bars[key] = std::make_unique<Bar>(windows.transcript, name, control.bounds);
+        break;
+      case ControlKind::comboBox:
+        combos[key] = std::make_unique<Combo>(windows.transcript, name, control.bounds);
+        break;
+      case ControlKind::textBox:
+        texts[key] = std::make_unique<Text>(windows.transcript, name, control.bounds);
+        texts[key]->content = control.text;
+        break;
+      case ControlKind::pictureBox:
+        pictures[key] = std::make_unique<Picture>(windows.transcript, name, control.bounds);
+        break;
+      case ControlKind::label:
+        labels[key] = std::make_unique<Caption>(windows.transcript, name, control.bounds);
+        break;
+    }
+  }
+}
+
+template <class C>
+C* FormWindow::find(ByName<C>& controls, const std::string& name, int index) {
+  const auto found = controls.find({name, index});
+  if (found == controls.end()) throw std::logic_error(std::string(layout.name) + " has no control " + name);
+  return found->second.get();
+}
+
+void FormWindow::note(const std::string& what) { windows.transcript.add(std::string(layout.name) + ": " + what); }
+
+void FormWindow::setCaption(const std::string& text) {
+  caption = text;
+  note("caption " + text);
+}
+
+void FormWindow::setHeight(Twips value) {
+  height = value;
+  note("height " + std::to_string(value.value));
+}
+
+Size FormWindow::sizeInPixels() const { return {layout.width.value / 15, height.value / 15}; }
+
+// Like the system's, a window that is shown becomes the active one, and one that is hidden stops being it.
+void FormWindow::setVisible(bool value) {
+  if (visible == value && (!value || windows.active == this)) return;
+  visible = value;
+  if (value) {
+    FormWindow* before = std::exchange(windows.active, this);
+    if (before && before != this && before->deactivated) before->deactivated();
+    if (before != this && activated) activated();
+  } else if (windows.active == this) {
+    windows.active = nullptr;
+    if (deactivated) deactivated();
+  }
+}
+
+void FormWindow::showTopmostAt(Point point) {
+  topLeft = point;
+  note("show topmost at " + written(point));
+  setVisible(true);
+}
+
+void FormWindow::showTopmost() {
+  note("show topmost");
+  setVisible(true);
+}
+
+void FormWindow::hide() {
+  note("hide");
+  setVisible(false);
+}
+
+void FormWindow::showModal() {
+  note("show modal");
+  setVisible(true);
+  if (windows.duringModal) windows.duringModal(*this);
+  if (visible && windows.find(layout.name) == this) throw TestEnded{std::string(layout.name) + " waits for a user"};
+  note("modal end");
+}
+
+void FormWindow::hook(WindowProcedure procedure) {
+  if (isHooked()) return;
+  hookProcedure = std::move(procedure);
+  note("hook");
+}
+
+void FormWindow::unhook() {
+  if (!isHooked()) return;
+  hookProcedure = nullptr;
+  note("unhook");
+}
+
+std::intptr_t FormWindow::callPrevious(const Message& message) {
+  note("previous procedure gets message " + std::to_string(message.number));
+  return 0;
+}
+
+std::intptr_t FormWindow::send(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam) {
+  const WindowProcedure procedure = hookProcedure;  // it may be taken off while it runs
+  return procedure ? procedure({number, message, wParam, lParam}) : 0;
+}
+
+int FormWindow::popUpMenuRightAligned(std::span<const char* const> captions, Twips x, Twips y) {
+  note("menu ending at " + std::to_string(x.value) + ", " + std::to_string(y.value));
+  windows.lastMenu.assign(captions.begin(), captions.end());
+  if (windows.menuChoices.empty()) throw TestEnded{"a menu waits for a user"};
+  const int choice = windows.menuChoices.front();
+  windows.menuChoices.pop_front();
+  return choice;
+}
+
+void FormWindow::userCloses() {
+  if (closeRequested) closeRequested();
+}
+
+void FormWindow::userClicks() {
+  if (clicked) clicked();
+}
+
+std::shared_ptr<Window> Windows::create(const FormLayout& layout) {
+  const auto failure = creationFailures.find(layout.name);
+  if (failure != creationFailures.end()) throw Error(failure->second);
+  return std::make_shared<FormWindow>(*this, layout, nextHandle++);
+}
+
+FormWindow* Windows::find(const std::string& name) const {
+  for (FormWindow* window : living) {
+    if (name == window->layout.name) return window;
+  }
+  return nullptr;
+}
+
+void Windows::activateApplication(bool activeNow) {
+  for (FormWindow* window : std::vector(living)) {
+    if (std::find(living.begin(), living.end(), window) != living.end()) {
+      window->send(messageActivateApplication, activeNow ? 1 : 0);
+    }
+  }
+}
+
+}  // namespace nerida::headless

@@ -1,0 +1,106 @@
+#pragma once
+
+#include <deque>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/headless/button_bar.h"
+#include "platform/headless/controls.h"
+#include "platform/window.h"
+
+namespace nerida::headless {
+
+class Windows;
+
+// A window in memory. What a user does to it is done with the members below the interface.
+class FormWindow : public Window {
+ public:
+  FormWindow(Windows& windows, const FormLayout& layout, WindowHandle handle);
+  ~FormWindow() override;
+
+  WindowHandle handle() const override { return number; }
+  bool isVisible() const override { return visible; }
+  void setCaption(const std::string& text) override;
+  void setHeight(Twips height) override;
+  Size sizeInPixels() const override;
+  Point position() const override { return topLeft; }
+  Point clientOrigin() const override { return {topLeft.x + 3, topLeft.y + 22}; }
+  void showTopmostAt(Point point) override;
+  void showTopmost() override;
+  void hide() override;
+  void showModal() override;
+  void hook(WindowProcedure procedure) override;
+  void unhook() override;
+  bool isHooked() const override { return hookProcedure != nullptr; }
+  std::intptr_t callPrevious(const Message& message) override;
+  int popUpMenuRightAligned(std::span<const char* const> captions, Twips x, Twips y) override;
+  ButtonBar& buttonBar(const std::string& name, int index) override { return bar(name, index); }
+  ComboBox& comboBox(const std::string& name) override { return *find(combos, name, 0); }
+  TextBox& textBox(const std::string& name) override { return *find(texts, name, 0); }
+  PictureBox& pictureBox(const std::string& name, int index) override { return *find(pictures, name, index); }
+  Label& label(const std::string& name) override { return *find(labels, name, 0); }
+
+  // The headless faces of the controls.
+  Bar& bar(const std::string& name, int index = 0) { return *find(bars, name, index); }
+  Combo& combo(const std::string& name) { return *find(combos, name, 0); }
+
+  // The system sends the window a message; the answer is what its procedure returns.
+  std::intptr_t send(std::uint32_t number, std::uintptr_t wParam = 0, std::intptr_t lParam = 0);
+  void userCloses();
+  void userClicks();
+
+  std::string caption;
+  Twips height;
+  const FormLayout& layout;
+
+ private:
+  template <class C>
+  using ByName = std::map<std::pair<std::string, int>, std::unique_ptr<C>>;
+  template <class C>
+  C* find(ByName<C>& controls, const std::string& name, int index);
+  void createControls();
+  void setVisible(bool value);
+  void note(const std::string& what);
+
+  Windows& windows;
+  WindowHandle number;
+  Point topLeft;
+  bool visible = false;
+  WindowProcedure hookProcedure;
+  ByName<Bar> bars;
+  ByName<Combo> combos;
+  ByName<Text> texts;
+  ByName<Picture> pictures;
+  ByName<Caption> labels;
+};
+
+// Creates the windows, keeps the list of those that live, and plays the user where a window waits for one.
+class Windows : public WindowFactory {
+ public:
+  explicit Windows(Transcript& transcript) : transcript(transcript) {}
+
+  std::shared_ptr<Window> create(const FormLayout& layout) override;
+
+  // The living window of that name, or null.
+  FormWindow* find(const std::string& name) const;
+  // The application loses or gains the focus: every window of it is told.
+  void activateApplication(bool active);
+
+  Transcript& transcript;
+  std::vector<FormWindow*> living;  // in order of creation
+  FormWindow* active = nullptr;
+  // What the user does while a modal window is shown; a window that nobody closes ends the test.
+  std::function<void(FormWindow&)> duringModal;
+  // The entries that the user picks from pop-up menus, in order (-1: none).
+  std::deque<int> menuChoices;
+  std::vector<std::string> lastMenu;
+  // Creating a window of this name fails with an error.
+  std::map<std::string, std::int32_t> creationFailures;
+
+ private:
+  WindowHandle nextHandle = 101;
+};
+
+}  // namespace nerida::headless
