@@ -7,16 +7,10 @@
 
 #include "host/render/renderer.h"
 #include "host/scene/model.h"
+#include "host/scene/orientation.h"
 #include "host/scene/playback.h"
 
 namespace nerida {
-
-/// Hundredths of a degree, 0 to 35999. The model turns about the vertical axis (y), then about the horizontal one
-/// (x), then in the picture plane (z).
-struct Orientation {
-  int x = 0, y = 0, z = 0;
-  friend bool operator==(const Orientation&, const Orientation&) = default;
-};
 
 struct LightDirection {
   int x = 0, y = 0, z = 0;  ///< -100 to 100: to the right, downwards, towards the viewer
