@@ -37,6 +37,8 @@ class ComPtr {
     ComPtr().swap(*this);
     return &pointer;
   }
+  // Hands the reference over to the caller.
+  Interface* release() { return std::exchange(pointer, nullptr); }
   void** putVoid() { return reinterpret_cast<void**>(put()); }
 
  private:

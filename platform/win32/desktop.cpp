@@ -32,22 +32,22 @@ bool foregroundIsOurs() {
 
 }  // namespace
 
-double WindowsDesktop::twipsPerPixelX() { return twipsPerPixel(LOGPIXELSX); }
-double WindowsDesktop::twipsPerPixelY() { return twipsPerPixel(LOGPIXELSY); }
+double SystemDesktop::twipsPerPixelX() { return twipsPerPixel(LOGPIXELSX); }
+double SystemDesktop::twipsPerPixelY() { return twipsPerPixel(LOGPIXELSY); }
 
-Size WindowsDesktop::screenSize() { return {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)}; }
+Size SystemDesktop::screenSize() { return {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)}; }
 
-void WindowsDesktop::setMousePointer(MousePointer pointer) {
+void SystemDesktop::setMousePointer(MousePointer pointer) {
   SetCursor(LoadCursorW(nullptr, pointer == MousePointer::hourglass ? IDC_WAIT : IDC_ARROW));
 }
 
-Point WindowsDesktop::screenToClient(WindowHandle window, Point screen) {
+Point SystemDesktop::screenToClient(WindowHandle window, Point screen) {
   POINT point = {screen.x, screen.y};
   if (!ScreenToClient(handleOf(window), &point)) return {};
   return {static_cast<std::int32_t>(point.x), static_cast<std::int32_t>(point.y)};
 }
 
-void WindowsDesktop::setForegroundWindow(WindowHandle window) {
+void SystemDesktop::setForegroundWindow(WindowHandle window) {
   if (!applicationIsLosingFocus() && foregroundIsOurs()) SetForegroundWindow(handleOf(window));
 }
 

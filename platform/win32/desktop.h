@@ -4,7 +4,7 @@
 
 namespace nerida {
 
-class WindowsDesktop : public Desktop {
+class SystemDesktop : public Desktop {
  public:
   double twipsPerPixelX() override;
   double twipsPerPixelY() override;

@@ -16,7 +16,7 @@ UINT boxStyle(PromptButtons buttons) { return static_cast<UINT>(buttons) | MB_TA
 
 }  // namespace
 
-PromptAnswer WindowsPrompts::messageBox(const std::string& text, PromptButtons buttons, const std::string& title) {
+PromptAnswer SystemPrompts::messageBox(const std::string& text, PromptButtons buttons, const std::string& title) {
   const ModuleLock lock;
   const std::wstring caption = wide(title.empty() ? libraryName : title);
   const int answer = MessageBoxW(GetActiveWindow(), wide(text).c_str(), caption.c_str(), boxStyle(buttons));

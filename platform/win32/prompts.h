@@ -4,7 +4,7 @@
 
 namespace nerida {
 
-class WindowsPrompts : public Prompts {
+class SystemPrompts : public Prompts {
  public:
   PromptAnswer messageBox(const std::string& text, PromptButtons buttons, const std::string& title) override;
 };

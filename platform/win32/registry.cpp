@@ -38,15 +38,15 @@ DWORD dataSize(DWORD type, const std::wstring& text, DWORD size) {
   return static_cast<DWORD>(WideCharToMultiByte(CP_ACP, 0, text.data(), length, nullptr, 0, nullptr, nullptr));
 }
 
-class WindowsRegistryKey : public RegistryKey {
+class SystemRegistryKey : public RegistryKey {
  public:
-  explicit WindowsRegistryKey(RegistryHandle key) : key(std::move(key)) {}
+  explicit SystemRegistryKey(RegistryHandle key) : key(std::move(key)) {}
 
   std::unique_ptr<RegistryKey> open(const std::string& name, long& status) override {
     RegistryHandle child;
     status = RegOpenKeyExW(key.get(), wide(name).c_str(), 0, KEY_READ | KEY_WOW64_32KEY, child.put());
     if (status != ERROR_SUCCESS) return nullptr;
-    return std::make_unique<WindowsRegistryKey>(std::move(child));
+    return std::make_unique<SystemRegistryKey>(std::move(child));
   }
 
   std::optional<RegistryValue> value(int index, long& status) override {
@@ -72,8 +72,8 @@ class WindowsRegistryKey : public RegistryKey {
 
 }  // namespace
 
-std::unique_ptr<RegistryKey> WindowsRegistry::openLocalMachine() {
-  return std::make_unique<WindowsRegistryKey>(RegistryHandle(HKEY_LOCAL_MACHINE));
+std::unique_ptr<RegistryKey> SystemRegistry::openLocalMachine() {
+  return std::make_unique<SystemRegistryKey>(RegistryHandle(HKEY_LOCAL_MACHINE));
 }
 
 }  // namespace nerida

@@ -4,7 +4,7 @@
 
 namespace nerida {
 
-class WindowsRegistry : public Registry {
+class SystemRegistry : public Registry {
  public:
   std::unique_ptr<RegistryKey> openLocalMachine() override;
 };

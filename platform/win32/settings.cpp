@@ -17,7 +17,7 @@ constexpr DWORD textTypes = RRF_RT_REG_SZ | RRF_RT_REG_EXPAND_SZ | RRF_NOEXPAND;
 
 }  // namespace
 
-std::string WindowsSettings::read(const std::string& section, const std::string& key, const std::string& fallback) {
+std::string SystemSettings::read(const std::string& section, const std::string& key, const std::string& fallback) {
   const std::wstring path = sectionPath(section);
   const std::wstring name = wide(key);
   DWORD size = 0;
@@ -29,7 +29,7 @@ std::string WindowsSettings::read(const std::string& section, const std::string&
   return status == ERROR_SUCCESS ? utf8(text.substr(0, text.find(L'\0'))) : fallback;
 }
 
-void WindowsSettings::write(const std::string& section, const std::string& key, const std::string& text) {
+void SystemSettings::write(const std::string& section, const std::string& key, const std::string& text) {
   RegistryHandle handle;
   LONG status = RegCreateKeyExW(HKEY_CURRENT_USER, sectionPath(section).c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
                                 KEY_SET_VALUE, nullptr, handle.put(), nullptr);

@@ -5,7 +5,7 @@
 namespace nerida {
 
 // Keeps the settings in the current user's registry, one key for each section.
-class WindowsSettings : public Settings {
+class SystemSettings : public Settings {
  public:
   std::string read(const std::string& section, const std::string& key, const std::string& fallback) override;
   void write(const std::string& section, const std::string& key, const std::string& text) override;

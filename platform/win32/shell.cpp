@@ -21,7 +21,7 @@ bool isExistingFile(const std::wstring& path) {
 }  // namespace
 
 // The system's help viewer waits in a question to the user while the file is missing, so it is not asked then.
-void WindowsShell::openHelp(WindowHandle owner, const std::string& file) {
+void SystemShell::openHelp(WindowHandle owner, const std::string& file) {
   const std::wstring path = wide(file);
   if (!isFullPath(path) || !isExistingFile(path)) return;
   const ModuleLock lock;

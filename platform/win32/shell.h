@@ -4,7 +4,7 @@
 
 namespace nerida {
 
-class WindowsShell : public Shell {
+class SystemShell : public Shell {
  public:
   void openHelp(WindowHandle owner, const std::string& file) override;
 };

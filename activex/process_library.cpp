@@ -1,0 +1,40 @@
+#include "activex/process_library.h"
+
+#include "platform/win32/desktop.h"
+#include "platform/win32/prompts.h"
+#include "platform/win32/registry.h"
+#include "platform/win32/settings.h"
+#include "platform/win32/shell.h"
+#include "platform/win32/window.h"
+
+namespace nerida {
+namespace {
+
+// The members' order is the order of their making: the library over the services.
+struct ProcessLibrary {
+  SystemDesktop desktop;
+  SystemWindowFactory windows;
+  SystemPrompts prompts;
+  SystemRegistry registry;
+  SystemSettings settings;
+  SystemShell shell;
+  Library library{{desktop, windows, prompts, registry, settings, shell}};
+};
+
+// Not an object with a destructor of its own: at the end of the process the system has already taken the windows and
+// the other modules away.
+ProcessLibrary* instance = nullptr;
+
+}  // namespace
+
+Library& processLibrary() {
+  if (instance == nullptr) instance = new ProcessLibrary();
+  return instance->library;
+}
+
+void dropProcessLibrary() {
+  delete instance;
+  instance = nullptr;
+}
+
+}  // namespace nerida

@@ -1,0 +1,148 @@
+#include "activex/registration.h"
+
+#include <ActiveNeridaToolbar_h.h>
+
+#include <string>
+#include <vector>
+
+#include "activex/ole_face.h"
+#include "activex/type_library.h"
+#include "platform/win32/registry_handle.h"
+
+namespace nerida {
+namespace {
+
+constexpr bool is64Bit = sizeof(void*) == 8;
+constexpr const wchar_t* classes = L"Software\\Classes\\";
+constexpr const wchar_t* programId = L"ActiveNeridaToolbar.NeridaWindow";
+constexpr const wchar_t* versionedProgramId = L"ActiveNeridaToolbar.NeridaWindow.1";
+constexpr const wchar_t* libraryTitle = L"ActiveNeridaToolbar 1.0 Type Library";
+// The system's marshaller that works from type libraries.
+constexpr const wchar_t* automationMarshaller = L"{00020424-0000-0000-C000-000000000046}";
+
+// A key and its value without, or with, a name.
+struct Entry {
+  std::wstring key;
+  std::wstring text;
+  std::wstring name = {};
+};
+using Entries = std::vector<Entry>;
+
+std::wstring braced(REFGUID id) {
+  wchar_t text[40];
+  StringFromGUID2(id, text, 40);
+  return text;
+}
+
+HKEY root(Scope scope) { return scope == Scope::machine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER; }
+
+std::wstring typeLibraryKey() { return L"TypeLib\\" + braced(LIBID_ActiveNeridaToolbar); }
+
+// Keys that both bitnesses read, which the last one to go takes away. Parents stand before their children.
+Entries sharedEntries() {
+  const std::wstring id = braced(CLSID_NeridaWindow);
+  const std::wstring unversioned = programId;
+  const std::wstring versioned = versionedProgramId;
+  const std::wstring library = typeLibraryKey();
+  const std::wstring module = modulePath();
+  return {
+      {unversioned, controlTitle},
+      {unversioned + L"\\CLSID", id},
+      {unversioned + L"\\CurVer", versioned},
+      {versioned, controlTitle},
+      {versioned + L"\\CLSID", id},
+      {library, L""},
+      {library + L"\\1.0", libraryTitle},
+      {library + L"\\1.0\\0", L""},
+      {library + L"\\1.0\\FLAGS", L"0"},
+      {library + L"\\1.0\\HELPDIR", module.substr(0, module.find_last_of(L'\\'))},
+  };
+}
+
+Entries ownEntries() {
+  const std::wstring id = L"CLSID\\" + braced(CLSID_NeridaWindow);
+  const std::wstring interfaceId = L"Interface\\" + braced(IID__NeridaWindow);
+  const std::wstring library = braced(LIBID_ActiveNeridaToolbar);
+  return {
+      {id, controlTitle},
+      {id + L"\\Control", L""},
+      {id + L"\\InprocServer32", modulePath()},
+      {id + L"\\InprocServer32", L"Apartment", L"ThreadingModel"},
+      {id + L"\\MiscStatus", L"0"},
+      {id + L"\\MiscStatus\\1", std::to_wstring(miscStatus)},
+      {id + L"\\ProgID", versionedProgramId},
+      {id + L"\\Programmable", L""},
+      {id + L"\\TypeLib", library},
+      {id + L"\\Version", L"1.0"},
+      {id + L"\\VersionIndependentProgID", programId},
+      {interfaceId, L"_NeridaWindow"},
+      {interfaceId + L"\\ProxyStubClsid32", automationMarshaller},
+      {interfaceId + L"\\TypeLib", library},
+      {interfaceId + L"\\TypeLib", L"1.0", L"Version"},
+      {typeLibraryKey() + L"\\1.0\\0\\" + (is64Bit ? L"win64" : L"win32"), modulePath()},
+  };
+}
+
+LONG write(HKEY base, const Entry& entry) {
+  RegistryHandle key;
+  LONG status = RegCreateKeyExW(base, (classes + entry.key).c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_SET_VALUE,
+                                nullptr, key.put(), nullptr);
+  if (status != ERROR_SUCCESS || (entry.text.empty() && entry.name.empty())) return status;
+  return RegSetValueExW(key.get(), entry.name.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(entry.text.c_str()),
+                        static_cast<DWORD>((entry.text.size() + 1) * sizeof(wchar_t)));
+}
+
+struct Contents {
+  DWORD keys = 0;
+  DWORD values = 0;
+};
+
+Contents contents(HKEY base, const std::wstring& key) {
+  Contents result;
+  RegistryHandle handle;
+  if (RegOpenKeyExW(base, (classes + key).c_str(), 0, KEY_READ, handle.put()) != ERROR_SUCCESS) return result;
+  RegQueryInfoKeyW(handle.get(), nullptr, nullptr, nullptr, &result.keys, nullptr, nullptr, &result.values, nullptr,
+                   nullptr, nullptr, nullptr);
+  return result;
+}
+
+// Removes a value of ours, and its key when nothing is left in it.
+void remove(HKEY base, const Entry& entry) {
+  const std::wstring path = classes + entry.key;
+  {
+    RegistryHandle key;
+    if (RegOpenKeyExW(base, path.c_str(), 0, KEY_SET_VALUE, key.put()) != ERROR_SUCCESS) return;
+    RegDeleteValueW(key.get(), entry.name.c_str());
+  }
+  const Contents left = contents(base, entry.key);
+  if (left.keys == 0 && left.values == 0) RegDeleteKeyW(base, path.c_str());
+}
+
+void remove(HKEY base, const Entries& entries) {
+  for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) remove(base, *entry);
+}
+
+LONG write(HKEY base, const Entries& entries) {
+  for (const Entry& entry : entries) {
+    if (const LONG status = write(base, entry); status != ERROR_SUCCESS) return status;
+  }
+  return ERROR_SUCCESS;
+}
+
+}  // namespace
+
+HRESULT registerServer(Scope scope) {
+  LONG status = write(root(scope), sharedEntries());
+  if (status == ERROR_SUCCESS) status = write(root(scope), ownEntries());
+  if (status != ERROR_SUCCESS) unregisterServer(scope);
+  return HRESULT_FROM_WIN32(static_cast<DWORD>(status));
+}
+
+HRESULT unregisterServer(Scope scope) {
+  remove(root(scope), ownEntries());
+  const bool otherBitnessRemains = contents(root(scope), typeLibraryKey() + L"\\1.0\\0").keys > 0;
+  if (!otherBitnessRemains) remove(root(scope), sharedEntries());
+  return S_OK;
+}
+
+}  // namespace nerida
