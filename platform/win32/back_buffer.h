@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/win32/handles.h"
+#include "platform/win32/pixels.h"
+
+namespace nerida {
+
+// The picture in memory that a control is drawn on before it goes to the screen in one piece. A form's controls share
+// one; it is made when first needed and grows with them.
+class BackBuffer {
+ public:
+  HDC context();  // for measuring and for text
+  // Ready for direct drawing; what was drawn before is still there.
+  PixelCanvas canvas(int width, int height);
+  void copyTo(HDC target, int width, int height);
+
+ private:
+  UniqueMemoryDc dc;
+  UniqueBitmap bitmap;
+  std::uint32_t* pixels = nullptr;
+  int width = 0;
+  int height = 0;
+};
+
+}  // namespace nerida

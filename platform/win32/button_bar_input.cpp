@@ -1,0 +1,189 @@
+// What the mouse, the keyboard and the system do to a button bar.
+#include <windowsx.h>
+
+#include <utility>
+
+#include "platform/win32/accessible_bar.h"
+#include "platform/win32/button_bar.h"
+#include "platform/win32/form_window.h"
+#include "platform/win32/paint_scope.h"
+
+namespace nerida {
+
+LRESULT SystemButtonBar::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  const POINT point = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+  if (tooltipsShown && message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
+    form().tooltips().relay(window(), message, wParam, lParam);
+  }
+  switch (message) {
+    case WM_PAINT: {
+      const PaintScope painting(window());
+      paint(painting.dc());
+      return 0;
+    }
+    case WM_PRINTCLIENT:
+      paint(reinterpret_cast<HDC>(wParam));
+      return 0;
+    case WM_ERASEBKGND:
+      return TRUE;
+    case WM_MOUSEMOVE:
+      onMouseMove(point);
+      return 0;
+    case WM_MOUSELEAVE:
+      onMouseLeave();
+      return 0;
+    case WM_LBUTTONDOWN:
+      onButtonDown(point);
+      return 0;
+    case WM_LBUTTONUP:
+      onButtonUp(point);
+      return 0;
+    case WM_CAPTURECHANGED:
+      redraw(std::exchange(pressed, none));
+      return 0;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+      onFocus(message == WM_SETFOCUS);
+      return 0;
+    case WM_KEYDOWN:
+      if (form().handleNavigation(message, wParam, this) || onKey(wParam, lParam)) return 0;
+      break;
+    case WM_SIZE:
+      for (BarLayout& each : layouts) measure(each);
+      break;
+    case WM_GETOBJECT:
+      if (static_cast<LONG>(lParam) == OBJID_CLIENT) {
+        if (accessible == nullptr) accessible = new BarAccessible(*this);
+        return accessible->answer(wParam);
+      }
+      break;
+    case WM_NCDESTROY:
+      if (accessible != nullptr) std::exchange(accessible, nullptr)->disconnect();
+      break;
+    default:
+      break;
+  }
+  return passOn(message, wParam, lParam);
+}
+
+int SystemButtonBar::buttonAt(POINT point) const {
+  for (int i = 0; i < buttonCount(); ++i) {
+    if (PtInRect(&button(i).area, point)) return i;
+  }
+  return none;
+}
+
+void SystemButtonBar::setHot(int index) {
+  if (hot == index) return;
+  redraw(std::exchange(hot, index));
+  redraw(index);
+  announce(EVENT_OBJECT_STATECHANGE, index);
+}
+
+void SystemButtonBar::onMouseMove(POINT point) {
+  if (!tracking) {
+    TRACKMOUSEEVENT request = {sizeof request, TME_LEAVE, window(), 0};
+    tracking = TrackMouseEvent(&request) != FALSE;
+  }
+  const int under = buttonAt(point);
+  // While a button is held, no other one answers to the pointer.
+  const bool answers = isUsable(under) && (pressed == none || pressed == under);
+  setHot(answers ? under : none);
+  if (under != none && tooltipsShown && !button(under).tooltip.empty()) {
+    form().tooltips().offer(window(), static_cast<unsigned>(under), button(under).area, button(under).tooltip);
+  }
+}
+
+void SystemButtonBar::onMouseLeave() {
+  tracking = false;
+  setHot(none);
+}
+
+void SystemButtonBar::onButtonDown(POINT point) {
+  const int under = buttonAt(point);
+  form().setShowsFocus(false);
+  if (pressed != none || !isUsable(under)) return;
+  pressed = under;
+  hot = under;
+  SetCapture(window());
+  redraw(under);
+  announce(EVENT_OBJECT_STATECHANGE, under);
+}
+
+void SystemButtonBar::onButtonUp(POINT point) {
+  const int held = std::exchange(pressed, none);
+  if (held == none) return;
+  ReleaseCapture();
+  redraw(held);
+  announce(EVENT_OBJECT_STATECHANGE, held);
+  if (held == buttonAt(point)) press(held);
+}
+
+void SystemButtonBar::cancelPress() {
+  if (pressed == none) return;
+  redraw(std::exchange(pressed, none));
+  if (GetCapture() == window()) ReleaseCapture();
+}
+
+bool SystemButtonBar::takesFocus() const {
+  for (int i = 0; i < buttonCount(); ++i) {
+    if (canPress(i)) return true;
+  }
+  return false;
+}
+
+// The next usable button on the way, round the ends; none when there is none.
+int SystemButtonBar::nextUsable(int from, int direction) const {
+  const int count = buttonCount();
+  for (int step = 1; step <= count; ++step) {
+    const int candidate = ((from + direction * step) % count + count) % count;
+    if (canPress(candidate)) return candidate;
+  }
+  return none;
+}
+
+void SystemButtonBar::focusButton(int index) {
+  redraw(std::exchange(focused, index));
+  redraw(index);
+  announce(EVENT_OBJECT_FOCUS, index);
+}
+
+void SystemButtonBar::stepFocus(int direction) {
+  const int start = focused == none && direction < 0 ? 0 : focused;
+  focusButton(nextUsable(start, direction));
+}
+
+void SystemButtonBar::onFocus(bool gained) {
+  if (gained && !isUsable(focused)) {
+    stepFocus(1);
+  } else {
+    redraw(focused);
+  }
+  if (gained) announce(EVENT_OBJECT_FOCUS, focused);
+}
+
+bool SystemButtonBar::onKey(WPARAM key, LPARAM flags) {
+  constexpr LPARAM wasDown = LPARAM{1} << 30;
+  switch (key) {
+    case VK_LEFT:
+    case VK_UP:
+    case VK_RIGHT:
+    case VK_DOWN:
+      form().setShowsFocus(true);
+      stepFocus(key == VK_LEFT || key == VK_UP ? -1 : 1);
+      return true;
+    case VK_HOME:
+    case VK_END:
+      form().setShowsFocus(true);
+      focusButton(key == VK_HOME ? nextUsable(none, 1) : nextUsable(0, -1));
+      return true;
+    case VK_SPACE:
+    case VK_RETURN:
+      if ((flags & wasDown) == 0 && canPress(focused)) press(focused);
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace nerida

@@ -1,0 +1,135 @@
+// How a button bar looks.
+#include <algorithm>
+
+#include "platform/win32/bitmap_files.h"
+#include "platform/win32/button_bar.h"
+#include "platform/win32/form_window.h"
+
+namespace nerida {
+namespace {
+
+// In pixels at 96 dpi.
+constexpr int edge = 1;        // around the picture of a button
+constexpr int captionGap = 2;  // between picture and caption
+constexpr int captionEnd = 5;  // after the caption
+
+Rgb systemColor(int index) {
+  const COLORREF color = GetSysColor(index);
+  return RGB(GetBValue(color), GetGValue(color), GetRValue(color));  // the other byte order
+}
+
+Box boxOf(const RECT& area) { return {area.left, area.top, area.right, area.bottom}; }
+
+struct Look {
+  bool usable;
+  bool hot;
+  bool held;
+  bool latched;
+};
+
+void paintFace(PixelCanvas& canvas, Box box, const Look& look) {
+  const Rgb face = systemColor(COLOR_BTNFACE);
+  const Rgb light = systemColor(COLOR_BTNHIGHLIGHT);
+  const Rgb shadow = systemColor(COLOR_BTNSHADOW);
+  const Box inside = {box.left + 1, box.top + 1, box.right - 1, box.bottom - 1};
+  if (look.held) {
+    canvas.fill(inside, mixed(face, shadow, 35));
+    canvas.frame(box, mixed(shadow, 0, 35), light);
+  } else if (look.latched) {
+    const Rgb pale = mixed(face, light, look.hot ? 100 : 75);
+    canvas.fillChecked(inside, pale, look.hot ? pale : mixed(face, light, 30));
+    canvas.frame(box, mixed(shadow, 0, 20), light);
+  } else if (look.hot) {
+    canvas.fill(inside, mixed(face, light, 55));
+    canvas.frame(box, light, shadow);
+  }
+}
+
+}  // namespace
+
+void SystemButtonBar::measure(BarLayout& measured) {
+  const Scale& scale = form().scale();
+  const HDC dc = form().backBuffer().context();
+  const Selected font(dc, form().font());
+  const LONG height = size().cy;
+  LONG left = 0;
+  for (BarButton& item : measured.buttons) {
+    LONG width = scale.design(item.spec.width) + 2 * scale.design(edge);
+    if (!item.caption.empty()) {
+      SIZE text = {};
+      GetTextExtentPoint32W(dc, item.caption.c_str(), static_cast<int>(item.caption.size()), &text);
+      width += scale.design(captionGap) + text.cx + scale.design(captionEnd);
+    }
+    item.area = {left, 0, left + width, height};
+    left += width;
+  }
+}
+
+const Picture* SystemButtonBar::pictureOf(BarButton& item) {
+  if (!item.pictureSought) {
+    item.pictureSought = true;
+    if (!resources) resources = openBitmapFile(folder, file);
+    item.picture = resources->picture(item.spec, form().scale().percent());
+  }
+  return item.picture ? &*item.picture : nullptr;
+}
+
+void SystemButtonBar::paint(HDC target) {
+  const SIZE extent = size();
+  if (extent.cx <= 0 || extent.cy <= 0) return;
+  BackBuffer& buffer = form().backBuffer();
+  PixelCanvas canvas = buffer.canvas(extent.cx, extent.cy);
+  canvas.fill({0, 0, extent.cx, extent.cy}, systemColor(COLOR_BTNFACE));
+  for (int i = 0; i < buttonCount(); ++i) paintButton(canvas, i);
+  const Selected font(buffer.context(), form().font());
+  SetBkMode(buffer.context(), TRANSPARENT);
+  for (int i = 0; i < buttonCount(); ++i) paintCaption(buffer.context(), i);
+  buffer.copyTo(target, extent.cx, extent.cy);
+}
+
+void SystemButtonBar::paintButton(PixelCanvas& canvas, int index) {
+  BarButton& item = layouts[static_cast<std::size_t>(current)].buttons[static_cast<std::size_t>(index)];
+  const bool held = index == pressed && index == hot;
+  const Look look = {isUsable(index), index == hot || index == pressed, held, item.state == buttonDown};
+  const Box box = boxOf(item.area);
+  paintFace(canvas, box, look);
+  if (const Picture* picture = pictureOf(item)) {
+    const POINT at = pictureOrigin(item, index);
+    look.usable ? canvas.draw(*picture, at.x, at.y) : canvas.drawGreyed(*picture, at.x, at.y);
+  }
+  if (index == focused && form().showsFocus() && GetFocus() == window()) {
+    canvas.dottedFrame({box.left + 2, box.top + 2, box.right - 2, box.bottom - 2}, systemColor(COLOR_BTNTEXT));
+  }
+}
+
+// What is down has sunk in by a pixel, with all that is on it.
+POINT SystemButtonBar::pictureOrigin(const BarButton& item, int index) const {
+  const Scale& scale = form().scale();
+  const LONG sunk = looksDown(index) ? 1 : 0;
+  const LONG height = item.picture ? item.picture->height : scale.design(item.spec.height);
+  return {item.area.left + scale.design(edge) + sunk, (item.area.bottom - height) / 2 + sunk};
+}
+
+void SystemButtonBar::paintCaption(HDC dc, int index) {
+  const BarButton& item = button(index);
+  if (item.caption.empty()) return;
+  const Scale& scale = form().scale();
+  RECT text = item.area;
+  text.left = pictureOrigin(item, index).x + scale.design(item.spec.width) + scale.design(captionGap);
+  OffsetRect(&text, 0, looksDown(index) ? 1 : 0);
+  constexpr UINT format = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_NOCLIP;
+  const auto write = [&](int color) {
+    SetTextColor(dc, GetSysColor(color));
+    DrawTextW(dc, item.caption.c_str(), static_cast<int>(item.caption.size()), &text, format);
+  };
+  if (isUsable(index)) {
+    write(COLOR_BTNTEXT);
+    return;
+  }
+  OffsetRect(&text, 1, 1);
+  write(COLOR_BTNHIGHLIGHT);
+  OffsetRect(&text, -1, -1);
+  write(COLOR_GRAYTEXT);
+}
+
+}  // namespace nerida

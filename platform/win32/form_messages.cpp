@@ -1,0 +1,121 @@
+// What a form does with its messages: activation, clicks, the close box, and the procedure hooked in front.
+#include "platform/win32/form_window.h"
+
+namespace nerida {
+
+LRESULT CALLBACK formProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_NCCREATE) {
+    auto* created = static_cast<FormWindow*>(reinterpret_cast<const CREATESTRUCTW*>(lParam)->lpCreateParams);
+    created->hwnd = window;
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
+  }
+  auto* form = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  if (form == nullptr) return DefWindowProcW(window, message, wParam, lParam);
+  return form->dispatch([&] { return form->onMessage(message, wParam, lParam); });
+}
+
+LRESULT CALLBACK hookProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  auto* form = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  if (form == nullptr) return DefWindowProcW(window, message, wParam, lParam);
+  return form->dispatch([&] { return form->runHook(message, wParam, lParam); });
+}
+
+LRESULT FormWindow::runHook(UINT message, WPARAM wParam, LPARAM lParam) {
+  const std::shared_ptr<const WindowProcedure> procedure = hooked;  // stays while it runs, even if taken off inside
+  const Message received = {handle(), message, wParam, lParam};
+  if (!procedure) return callPrevious(received);
+  if (message == messageActivateApplication && wParam == 0) {
+    const LosingFocus losing;
+    return (*procedure)(received);
+  }
+  return (*procedure)(received);
+}
+
+void FormWindow::hook(WindowProcedure procedure) {
+  if (hooked || hwnd == nullptr) return;
+  hooked = std::make_shared<const WindowProcedure>(std::move(procedure));
+  const auto front = reinterpret_cast<LONG_PTR>(hookProcedure);
+  if (GetWindowLongPtrW(hwnd, GWLP_WNDPROC) == front) return;  // still there: see unhook
+  const LONG_PTR previous = SetWindowLongPtrW(hwnd, GWLP_WNDPROC, front);
+  if (previous != front) behindHook = reinterpret_cast<WNDPROC>(previous);
+}
+
+// Someone else may have put a procedure in front of ours meanwhile. It must not be cut off: then our procedure stays
+// in the chain and only passes on.
+void FormWindow::unhook() {
+  if (!hooked) return;
+  hooked.reset();
+  if (GetWindowLongPtrW(hwnd, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(hookProcedure)) {
+    SetWindowLongPtrW(hwnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(behindHook));
+  }
+}
+
+std::intptr_t FormWindow::callPrevious(const Message& message) {
+  const auto window = reinterpret_cast<HWND>(message.window);
+  if (behindHook == nullptr) return DefWindowProcW(window, message.number, message.wParam, message.lParam);
+  return CallWindowProcW(behindHook, window, message.number, message.wParam, message.lParam);
+}
+
+NativeControl* FormWindow::controlOf(HWND window) const {
+  for (const auto& control : controls) {
+    if (window != nullptr && control->window() == window) return control.get();
+  }
+  return nullptr;
+}
+
+LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_COMMAND:
+      if (NativeControl* control = controlOf(reinterpret_cast<HWND>(lParam))) control->onCommand(HIWORD(wParam));
+      return 0;
+    case WM_ACTIVATE:
+      onActivate(LOWORD(wParam) != WA_INACTIVE);
+      return 0;
+    case WM_SETFOCUS:
+      if (const NativeControl* control = controlOf(lastFocus); control && control->takesFocus()) SetFocus(lastFocus);
+      return 0;
+    case WM_KEYDOWN:
+      if (handleNavigation(message, wParam, nullptr)) return 0;
+      break;
+    case WM_LBUTTONDOWN:
+      clickStarted = true;
+      return 0;
+    case WM_LBUTTONUP:
+      if (std::exchange(clickStarted, false)) raise(clicked);
+      return 0;
+    case WM_CLOSE:
+      raise(closeRequested);
+      return 0;
+    case WM_SHOWWINDOW:
+      if (wParam == FALSE) endModal();
+      break;
+    case WM_SYSCOLORCHANGE:
+    case WM_SETTINGCHANGE:
+      RedrawWindow(hwnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+      break;
+    case WM_NCDESTROY:
+      endModal();
+      SetWindowLongPtrW(hwnd, GWLP_USERDATA, 0);
+      return DefWindowProcW(std::exchange(hwnd, nullptr), message, wParam, lParam);
+    default:
+      break;
+  }
+  return DefWindowProcW(hwnd, message, wParam, lParam);
+}
+
+void FormWindow::onActivate(bool active) {
+  if (active) {
+    SetFocus(hwnd);
+    raise(activated);
+  } else {
+    rememberFocus();
+    raise(deactivated);
+  }
+}
+
+void FormWindow::rememberFocus() {
+  const HWND focus = GetFocus();
+  if (IsChild(hwnd, focus)) lastFocus = focus;
+}
+
+}  // namespace nerida

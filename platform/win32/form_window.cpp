@@ -1,0 +1,177 @@
+#include "platform/win32/form_window.h"
+
+#include <stdexcept>
+
+#include "platform/error.h"
+#include "platform/win32/button_bar.h"
+#include "platform/win32/combo_box.h"
+#include "platform/win32/label.h"
+#include "platform/win32/picture_box.h"
+#include "platform/win32/popup_menu.h"
+#include "platform/win32/text.h"
+#include "platform/win32/text_box.h"
+
+namespace nerida {
+namespace {
+
+struct FrameStyle {
+  DWORD style;
+  DWORD extended;
+};
+
+FrameStyle styleOf(FormFrame frame) {
+  switch (frame) {
+    case FormFrame::toolWindow:
+      return {WS_POPUP | WS_CAPTION | WS_SYSMENU, WS_EX_TOOLWINDOW};
+    case FormFrame::popup:
+      return {WS_POPUP | WS_DLGFRAME, WS_EX_TOOLWINDOW};
+    case FormFrame::dialog:
+      return {WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME, 0};
+    case FormFrame::borderless:
+      break;
+  }
+  return {WS_POPUP, WS_EX_TOOLWINDOW};
+}
+
+UniqueFont createMessageFont() {
+  NONCLIENTMETRICSW metrics = {};
+  metrics.cbSize = sizeof metrics;
+  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+  return UniqueFont(CreateFontIndirectW(&metrics.lfMessageFont));
+}
+
+std::unique_ptr<NativeControl> makeControl(FormWindow& form, const ControlLayout& row) {
+  switch (row.kind) {
+    case ControlKind::buttonBar:
+      return std::make_unique<SystemButtonBar>(form, row);
+    case ControlKind::comboBox:
+      return std::make_unique<SystemComboBox>(form, row);
+    case ControlKind::textBox:
+      return std::make_unique<SystemTextBox>(form, row);
+    case ControlKind::pictureBox:
+      return std::make_unique<SystemPictureBox>(form, row);
+    case ControlKind::label:
+      break;
+  }
+  return std::make_unique<SystemLabel>(form, row);
+}
+
+}  // namespace
+
+FormWindow::FormWindow(const FormLayout& layout)
+    : frame(layout.frame), screenScale(Scale::ofScreen()), messageFont(createMessageFont()) {
+  const FrameStyle style = styleOf(frame);
+  RECT outer = {0, 0, screenScale.pixelsX(layout.width), 0};
+  AdjustWindowRectEx(&outer, style.style, FALSE, style.extended);
+  CreateWindowExW(style.extended, formClass, wide(layout.caption).c_str(), style.style | WS_CLIPCHILDREN, 0, 0,
+                  outer.right - outer.left, screenScale.pixelsY(layout.height), nullptr, nullptr, moduleInstance(),
+                  this);
+  if (hwnd == nullptr) throw Error(error::outOfMemory);
+  try {
+    tips.emplace(hwnd);
+    createControls(layout.controls);
+  } catch (...) {
+    dying = true;
+    DestroyWindow(hwnd);
+    throw;
+  }
+}
+
+FormWindow::~FormWindow() {
+  dying = true;
+  tips.reset();
+  if (hwnd != nullptr) DestroyWindow(hwnd);
+}
+
+// Pictures lie over the other controls, wherever they stand in the layout: the first child is the topmost.
+void FormWindow::createControls(std::span<const ControlLayout> rows) {
+  for (const ControlLayout& row : rows) {
+    if (row.kind == ControlKind::pictureBox) controls.push_back(makeControl(*this, row));
+  }
+  for (const ControlLayout& row : rows) {
+    if (row.kind != ControlKind::pictureBox) controls.push_back(makeControl(*this, row));
+  }
+}
+
+void FormWindow::dispose() {
+  disposed = true;
+  unhook();
+  if (uses == 0) {
+    delete this;
+    return;
+  }
+  if (hwnd != nullptr) hide();
+}
+
+bool FormWindow::isVisible() const { return hwnd != nullptr && IsWindowVisible(hwnd) != FALSE; }
+
+void FormWindow::setCaption(const std::string& text) { SetWindowTextW(hwnd, wide(text).c_str()); }
+
+void FormWindow::setHeight(Twips height) {
+  RECT outer = {};
+  GetWindowRect(hwnd, &outer);
+  SetWindowPos(hwnd, nullptr, 0, 0, outer.right - outer.left, screenScale.pixelsY(height),
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  leaveUnreachableFocus();
+}
+
+Size FormWindow::sizeInPixels() const {
+  RECT outer = {};
+  GetWindowRect(hwnd, &outer);
+  return {outer.right - outer.left, outer.bottom - outer.top};
+}
+
+Point FormWindow::position() const {
+  RECT outer = {};
+  GetWindowRect(hwnd, &outer);
+  return {outer.left, outer.top};
+}
+
+Point FormWindow::clientOrigin() const {
+  POINT origin = {};
+  ClientToScreen(hwnd, &origin);
+  return {origin.x, origin.y};
+}
+
+void FormWindow::showTopmostAt(Point topLeft) {
+  SetWindowPos(hwnd, HWND_TOPMOST, topLeft.x, topLeft.y, 0, 0, SWP_NOSIZE | SWP_SHOWWINDOW);
+}
+
+void FormWindow::showTopmost() {
+  SetWindowPos(hwnd, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_SHOWWINDOW);
+}
+
+void FormWindow::hide() {
+  const Use use(*this);
+  if (menuOpen) EndMenu();
+  if (tips) tips->hide();
+  ShowWindow(hwnd, SW_HIDE);
+}
+
+int FormWindow::popUpMenuRightAligned(std::span<const char* const> captions, Twips x, Twips y) {
+  const ModuleLock lock;
+  const Use use(*this);
+  POINT corner = {screenScale.pixelsX(x), screenScale.pixelsY(y)};
+  ClientToScreen(hwnd, &corner);
+  menuOpen = true;
+  const int chosen = trackPopupMenu(hwnd, captions, corner);
+  menuOpen = false;
+  return disposed ? -1 : chosen;
+}
+
+template <class Interface>
+Interface& FormWindow::find(const std::string& name, int index) {
+  for (const auto& control : controls) {
+    if (name != control->layout().name || index != control->layout().index) continue;
+    if (auto* found = dynamic_cast<Interface*>(control.get())) return *found;
+  }
+  throw std::logic_error("no such control: " + name);
+}
+
+ButtonBar& FormWindow::buttonBar(const std::string& name, int index) { return find<ButtonBar>(name, index); }
+ComboBox& FormWindow::comboBox(const std::string& name) { return find<ComboBox>(name, 0); }
+TextBox& FormWindow::textBox(const std::string& name) { return find<TextBox>(name, 0); }
+PictureBox& FormWindow::pictureBox(const std::string& name, int index) { return find<PictureBox>(name, index); }
+Label& FormWindow::label(const std::string& name) { return find<Label>(name, 0); }
+
+}  // namespace nerida

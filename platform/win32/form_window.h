@@ -1,0 +1,137 @@
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "platform/win32/back_buffer.h"
+#include "platform/win32/handles.h"
+#include "platform/win32/module.h"
+#include "platform/win32/native_control.h"
+#include "platform/win32/scale.h"
+#include "platform/win32/tooltips.h"
+#include "platform/win32/window_class.h"
+#include "platform/window.h"
+
+namespace nerida {
+
+// A form and its controls. It is destroyed by dispose, at once or, from inside one of its own messages, when the
+// outermost of them has returned; from then on it is hidden and raises nothing.
+class FormWindow final : public Window {
+ public:
+  explicit FormWindow(const FormLayout& layout);
+  ~FormWindow() override;
+  void dispose();
+
+  WindowHandle handle() const override { return reinterpret_cast<WindowHandle>(hwnd); }
+  bool isVisible() const override;
+  void setCaption(const std::string& text) override;
+  void setHeight(Twips height) override;
+  Size sizeInPixels() const override;
+  Point position() const override;
+  Point clientOrigin() const override;
+  void showTopmostAt(Point topLeft) override;
+  void showTopmost() override;
+  void hide() override;
+  void showModal() override;
+  void hook(WindowProcedure procedure) override;
+  void unhook() override;
+  bool isHooked() const override { return hooked != nullptr; }
+  std::intptr_t callPrevious(const Message& message) override;
+  int popUpMenuRightAligned(std::span<const char* const> captions, Twips x, Twips y) override;
+  ButtonBar& buttonBar(const std::string& name, int index) override;
+  ComboBox& comboBox(const std::string& name) override;
+  TextBox& textBox(const std::string& name) override;
+  PictureBox& pictureBox(const std::string& name, int index) override;
+  Label& label(const std::string& name) override;
+
+  // For the controls.
+  HWND window() const { return hwnd; }
+  HFONT font() const { return messageFont.get(); }
+  const Scale& scale() const { return screenScale; }
+  BackBuffer& backBuffer() { return buffer; }
+  Tooltips& tooltips() { return *tips; }
+  bool showsFocus() const { return focusShown; }
+  void setShowsFocus(bool shows);
+  // Tab, Shift+Tab and Escape; true when the key has been used up.
+  bool handleNavigation(UINT message, WPARAM key, const NativeControl* from);
+
+  // Raises an event of the form or of one of its controls, unless the form is on its way out.
+  template <class Event, class... Arguments>
+  void raise(const Event& event, Arguments&&... arguments) {
+    if (!disposed && event) event(std::forward<Arguments>(arguments)...);
+  }
+
+  // Runs a window procedure of the form or of a control: the module stays, the form stays, no exception leaves.
+  template <class Handler>
+  LRESULT dispatch(Handler handler) noexcept {
+    const ModuleLock lock;
+    const Use use(*this);
+    try {
+      return handler();
+    } catch (...) {
+      return 0;
+    }
+  }
+
+ private:
+  friend LRESULT CALLBACK formProcedure(HWND, UINT, WPARAM, LPARAM);
+  friend LRESULT CALLBACK hookProcedure(HWND, UINT, WPARAM, LPARAM);
+
+  // While one exists, the form is not deleted.
+  class Use {
+   public:
+    explicit Use(FormWindow& used) : form(used) { ++form.uses; }
+    ~Use() {
+      if (--form.uses == 0 && form.disposed && !form.dying) delete &form;
+    }
+    Use(const Use&) = delete;
+    Use& operator=(const Use&) = delete;
+
+   private:
+    FormWindow& form;
+  };
+
+  LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT runHook(UINT message, WPARAM wParam, LPARAM lParam);
+  void onActivate(bool active);
+  void rememberFocus();
+  void moveFocus(const NativeControl* from, bool backward);
+  void createControls(std::span<const ControlLayout> rows);
+  NativeControl* controlOf(HWND window) const;
+  void leaveUnreachableFocus();
+  void centre();
+  void endModal();
+  template <class Interface>
+  Interface& find(const std::string& name, int index);
+
+  const FormFrame frame;
+  const WindowClasses classes;
+  const Scale screenScale;
+  UniqueFont messageFont;
+  BackBuffer buffer;
+  std::vector<std::unique_ptr<NativeControl>> controls;
+  HWND hwnd = nullptr;
+  std::optional<Tooltips> tips;
+  HWND lastFocus = nullptr;
+  bool focusShown = false;
+  bool clickStarted = false;
+
+  std::shared_ptr<const WindowProcedure> hooked;
+  WNDPROC behindHook = nullptr;
+
+  bool modal = false;
+  std::vector<HWND> disabledForModal;
+  bool menuOpen = false;
+
+  int uses = 0;
+  bool disposed = false;
+  bool dying = false;
+};
+
+LRESULT CALLBACK formProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+}  // namespace nerida

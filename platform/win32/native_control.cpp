@@ -1,0 +1,97 @@
+#include "platform/win32/native_control.h"
+
+#include "platform/error.h"
+#include "platform/win32/form_window.h"
+#include "platform/win32/module.h"
+#include "platform/win32/text.h"
+
+namespace nerida {
+
+NativeControl::NativeControl(FormWindow& owner, const ControlLayout& row) : parent(owner), place(row) {}
+
+std::wstring NativeControl::accessibleName() const { return wide(*place.tooltip != '\0' ? place.tooltip : place.name); }
+
+HWND NativeControl::createWindow(const wchar_t* windowClass, const wchar_t* text, DWORD style, DWORD extendedStyle,
+                                 int height, void* parameter) {
+  const RECT at = parent.scale().pixels(place.bounds);
+  const HWND window =
+      CreateWindowExW(extendedStyle | WS_EX_NOPARENTNOTIFY, windowClass, text,
+                      style | WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, at.left, at.top, at.right - at.left,
+                      height != 0 ? height : at.bottom - at.top, parent.window(), nullptr, moduleInstance(), parameter);
+  if (window == nullptr) throw Error(error::outOfMemory);
+  return window;
+}
+
+void NativeControl::createOwn(const wchar_t* windowClass, DWORD style) {
+  createWindow(windowClass, accessibleName().c_str(), style, 0, 0, this);
+}
+
+void NativeControl::createStandard(const wchar_t* windowClass, const wchar_t* text, DWORD style, DWORD extendedStyle,
+                                   int height) {
+  handle = createWindow(windowClass, text, style, extendedStyle, height, nullptr);
+  SetWindowLongPtrW(handle, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  previous =
+      reinterpret_cast<WNDPROC>(SetWindowLongPtrW(handle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(controlProcedure)));
+  SendMessageW(handle, WM_SETFONT, reinterpret_cast<WPARAM>(parent.font()), FALSE);
+}
+
+LRESULT NativeControl::passOn(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (previous != nullptr) return CallWindowProcW(previous, handle, message, wParam, lParam);
+  return DefWindowProcW(handle, message, wParam, lParam);
+}
+
+SIZE NativeControl::size() const {
+  RECT client = {};
+  GetClientRect(handle, &client);
+  return {client.right, client.bottom};
+}
+
+void NativeControl::show(bool visible) {
+  shown = visible;
+  ShowWindow(handle, visible ? SW_SHOWNA : SW_HIDE);
+}
+
+bool NativeControl::isReachable(POINT point) const {
+  if (!shown || handle == nullptr) return false;
+  MapWindowPoints(handle, parent.window(), &point, 1);
+  return ChildWindowFromPointEx(parent.window(), point, CWP_SKIPINVISIBLE | CWP_SKIPDISABLED) == handle;
+}
+
+void NativeControl::detach() { handle = nullptr; }
+
+void NativeControl::onCommand(WORD) {}
+
+LRESULT NativeControl::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  const bool isMouse = message >= WM_MOUSEFIRST && message <= WM_MOUSELAST;
+  if (isMouse && *place.tooltip != '\0') relayToTooltips(message, wParam, lParam);
+  return passOn(message, wParam, lParam);
+}
+
+void NativeControl::relayToTooltips(UINT message, WPARAM wParam, LPARAM lParam) {
+  const SIZE extent = size();
+  if (message == WM_MOUSEMOVE) parent.tooltips().offer(handle, 0, {0, 0, extent.cx, extent.cy}, wide(place.tooltip));
+  parent.tooltips().relay(handle, message, wParam, lParam);
+}
+
+LRESULT CALLBACK controlProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_NCCREATE) {
+    const auto* creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
+    auto* created = static_cast<NativeControl*>(creation->lpCreateParams);
+    if (created != nullptr) {
+      created->handle = window;
+      SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
+    }
+  }
+  auto* control = reinterpret_cast<NativeControl*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  if (control == nullptr) return DefWindowProcW(window, message, wParam, lParam);
+  return control->parent.dispatch([&] {
+    const LRESULT result = control->onMessage(message, wParam, lParam);
+    if (message == WM_NCDESTROY) {
+      SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+      control->detach();
+    }
+    return result;
+  });
+}
+
+}  // namespace nerida

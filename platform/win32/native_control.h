@@ -1,0 +1,74 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "platform/control.h"
+#include "platform/form_layout.h"
+
+namespace nerida {
+
+class FormWindow;
+
+// What the controls of a form have in common: a child window whose messages come here, be it one of our classes or
+// one of the system's that we stand in front of. The form owns the object and destroys the window.
+class NativeControl {
+ public:
+  NativeControl(FormWindow& owner, const ControlLayout& row);
+  virtual ~NativeControl() = default;
+  NativeControl(const NativeControl&) = delete;
+  NativeControl& operator=(const NativeControl&) = delete;
+
+  HWND window() const { return handle; }
+  FormWindow& form() const { return parent; }
+  const ControlLayout& layout() const { return place; }
+  // The tooltip, else the control's name: what assistive tools call it.
+  std::wstring accessibleName() const;
+
+  void show(bool visible);
+  bool isShown() const { return shown; }
+
+  virtual LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
+  virtual void onCommand(WORD notification);  // from the control's own window, through the form
+  // Whether the keyboard can come here now: it is shown, and its middle is neither folded away nor covered.
+  virtual bool takesFocus() const { return false; }
+  bool isReachable(POINT point) const;  // in the control's own coordinates
+
+  void detach();  // the window is gone
+
+ protected:
+  // A window of one of our classes (it is given its messages from the first one on), or of the system's.
+  void createOwn(const wchar_t* windowClass, DWORD style);
+  void createStandard(const wchar_t* windowClass, const wchar_t* text, DWORD style, DWORD extendedStyle,
+                      int height = 0);
+  LRESULT passOn(UINT message, WPARAM wParam, LPARAM lParam);
+  SIZE size() const;
+
+ private:
+  friend LRESULT CALLBACK controlProcedure(HWND, UINT, WPARAM, LPARAM);
+
+  HWND createWindow(const wchar_t* windowClass, const wchar_t* text, DWORD style, DWORD extendedStyle, int height,
+                    void* parameter);
+  void relayToTooltips(UINT message, WPARAM wParam, LPARAM lParam);
+
+  FormWindow& parent;
+  const ControlLayout& place;
+  HWND handle = nullptr;
+  WNDPROC previous = nullptr;
+  bool shown = true;
+};
+
+LRESULT CALLBACK controlProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+// The common members of the control interfaces, on top of a native control.
+template <class Interface>
+class ControlOf : public Interface, public NativeControl {
+ public:
+  using NativeControl::NativeControl;
+  void setVisible(bool visible) override { show(visible); }
+  bool isVisible() const override { return isShown(); }
+  Bounds bounds() const override { return layout().bounds; }
+};
+
+}  // namespace nerida

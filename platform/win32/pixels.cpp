@@ -1,0 +1,96 @@
+#include "platform/win32/pixels.h"
+
+#include <algorithm>
+
+namespace nerida {
+namespace {
+
+// Lays a colour multiplied by its alpha over an opaque one.
+Rgb over(std::uint32_t color, Rgb below) {
+  const std::uint32_t rest = 255 - (color >> 24);
+  const auto channel = [&](unsigned shift) {
+    const std::uint32_t sum = (color >> shift & 255) + ((below >> shift & 255) * rest + 127) / 255;
+    return std::min<std::uint32_t>(sum, 255) << shift;
+  };
+  return channel(16) | channel(8) | channel(0);
+}
+
+std::uint32_t greyed(std::uint32_t color) {
+  const std::uint32_t alpha = (color >> 24) / 2;
+  const std::uint32_t light = ((color >> 16 & 255) * 77 + (color >> 8 & 255) * 150 + (color & 255) * 29) / 512;
+  // Raised towards the middle, so that dark outlines do not stay the darkest thing on the bar.
+  const std::uint32_t grey = std::min(alpha, light / 2 + alpha * 2 / 5);
+  return alpha << 24 | grey << 16 | grey << 8 | grey;
+}
+
+}  // namespace
+
+Rgb mixed(Rgb a, Rgb b, int percentOfB) {
+  const auto part = static_cast<std::uint32_t>(percentOfB);
+  const auto channel = [&](unsigned shift) {
+    return (((a >> shift & 255) * (100 - part) + (b >> shift & 255) * part + 50) / 100) << shift;
+  };
+  return channel(16) | channel(8) | channel(0);
+}
+
+Box PixelCanvas::clipped(Box box) const {
+  return {std::max(box.left, 0), std::max(box.top, 0), std::min(box.right, width), std::min(box.bottom, height)};
+}
+
+void PixelCanvas::dot(int x, int y, Rgb color) {
+  if (x >= 0 && y >= 0 && x < width && y < height) at(x, y) = color;
+}
+
+void PixelCanvas::fill(Box box, Rgb color) { fillChecked(box, color, color); }
+
+void PixelCanvas::fillChecked(Box box, Rgb a, Rgb b) {
+  const Box part = clipped(box);
+  for (int y = part.top; y < part.bottom; ++y) {
+    for (int x = part.left; x < part.right; ++x) at(x, y) = (x + y) % 2 == 0 ? a : b;
+  }
+}
+
+void PixelCanvas::frame(Box box, Rgb topLeft, Rgb bottomRight) {
+  for (int x = box.left + 1; x < box.right - 1; ++x) {
+    dot(x, box.top, topLeft);
+    dot(x, box.bottom - 1, bottomRight);
+  }
+  for (int y = box.top + 1; y < box.bottom - 1; ++y) {
+    dot(box.left, y, topLeft);
+    dot(box.right - 1, y, bottomRight);
+  }
+}
+
+void PixelCanvas::dottedFrame(Box box, Rgb color) {
+  const auto dotted = [&](int x, int y) {
+    if ((x + y) % 2 == 0) dot(x, y, color);
+  };
+  for (int x = box.left; x < box.right; ++x) {
+    dotted(x, box.top);
+    dotted(x, box.bottom - 1);
+  }
+  for (int y = box.top; y < box.bottom; ++y) {
+    dotted(box.left, y);
+    dotted(box.right - 1, y);
+  }
+}
+
+template <class Shade>
+void PixelCanvas::blend(const Picture& picture, int x, int y, Shade shade) {
+  const Box part = clipped({x, y, x + picture.width, y + picture.height});
+  for (int row = part.top; row < part.bottom; ++row) {
+    const std::uint32_t* source =
+        &picture.pixels[static_cast<std::size_t>(row - y) * static_cast<std::size_t>(picture.width)];
+    for (int column = part.left; column < part.right; ++column) {
+      at(column, row) = over(shade(source[column - x]), at(column, row));
+    }
+  }
+}
+
+void PixelCanvas::draw(const Picture& picture, int x, int y) {
+  blend(picture, x, y, [](std::uint32_t color) { return color; });
+}
+
+void PixelCanvas::drawGreyed(const Picture& picture, int x, int y) { blend(picture, x, y, greyed); }
+
+}  // namespace nerida

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <windows.h>
+
+#include <cmath>
+
+#include "platform/units.h"
+
+namespace nerida {
+
+// The fineness of the screen. Lengths in twips become pixels here and nowhere else, rounded half to even.
+class Scale {
+ public:
+  static Scale ofScreen() {
+    const HDC screen = GetDC(nullptr);
+    const Scale scale(GetDeviceCaps(screen, LOGPIXELSX), GetDeviceCaps(screen, LOGPIXELSY));
+    ReleaseDC(nullptr, screen);
+    return scale;
+  }
+  Scale(int x, int y) : dpiX(x), dpiY(y) {}
+
+  int pixelsX(Twips length) const { return pixels(length, dpiX); }
+  int pixelsY(Twips length) const { return pixels(length, dpiY); }
+  // Edges are converted, not sizes, so that neighbours in twips are neighbours on the screen.
+  RECT pixels(const Bounds& bounds) const {
+    return {pixelsX(bounds.left), pixelsY(bounds.top), pixelsX(bounds.left + bounds.width),
+            pixelsY(bounds.top + bounds.height)};
+  }
+
+  // A length that is given for 96 dots per inch, and the scale in percent.
+  int design(int length) const { return MulDiv(length, dpiX, USER_DEFAULT_SCREEN_DPI); }
+  int percent() const { return MulDiv(100, dpiX, USER_DEFAULT_SCREEN_DPI); }
+
+ private:
+  static int pixels(Twips length, int dpi) { return static_cast<int>(std::nearbyint(length.value * dpi / 1440.0)); }
+
+  int dpiX;
+  int dpiY;
+};
+
+}  // namespace nerida

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/win32/native_control.h"
+
+namespace nerida {
+
+class SystemTextBox final : public ControlOf<TextBox> {
+ public:
+  SystemTextBox(FormWindow& owner, const ControlLayout& row);
+
+  std::string text() const override;
+  void setText(const std::string& text) override;
+
+ private:
+  LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+  bool takesFocus() const override;
+};
+
+}  // namespace nerida
