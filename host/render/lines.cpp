@@ -34,7 +34,7 @@ class LineDrawer {
   void draw() {
     for (const Edge& edge : mesh.edges) {
       const float thickness = thicknessOf(edge);
-      if (thickness > 0) trace(frame.vertices[edge.from], frame.vertices[edge.to], thickness);
+      if (thickness > 0) trace(edge, thickness);
     }
   }
 
@@ -59,22 +59,61 @@ class LineDrawer {
   }
 
   /// Draws the visible stretches of an edge, and the hidden ones as the style wants them.
-  void trace(const ScreenVertex& a, const ScreenVertex& b, float thickness) {
-    if (!reachesPicture(a, b)) return;
+  void trace(const Edge& edge, float thickness) {
+    const ScreenVertex &a = frame.vertices[edge.from], &b = frame.vertices[edge.to];
+    if (!reachesPicture(a, b) || isSeam(edge)) return;
     constexpr float stepLength = 1.5F, mostSteps = 4096;
     const float size = std::hypot(b.x - a.x, b.y - a.y);
     const int steps = static_cast<int>(std::clamp(size / stepLength, 1.0F, mostSteps));
     const float share = 1.0F / static_cast<float>(steps);
+    const auto pointAt = [&](float step) { return between(a, b, step * share); };
     int start = 0;
-    bool visible = isVisible(between(a, b, share / 2));
+    float opacity = opacityAt(pointAt(0.5F));
     for (int i = 1; i <= steps; ++i) {
-      const bool next = i < steps ? isVisible(between(a, b, (static_cast<float>(i) + 0.5F) * share)) : !visible;
-      if (next == visible) continue;
-      stretch(between(a, b, static_cast<float>(start) * share).at, between(a, b, static_cast<float>(i) * share).at,
-              {thickness, visible ? 1 : lines.hiddenOpacity});
+      const auto step = static_cast<float>(i);
+      const float next = i < steps ? opacityAt(pointAt(step + 0.5F)) : -1;
+      if (next == opacity) continue;
+      stretch(pointAt(static_cast<float>(start)).at, pointAt(step).at, {thickness, opacity});
       start = i;
-      visible = next;
+      opacity = next;
     }
+  }
+
+  [[nodiscard]] float opacityAt(LinePoint p) const { return isVisible(p) ? 1.0F : lines.hiddenOpacity; }
+
+  /// Whether a face ends only because another one, cut differently, goes on in its plane.
+  [[nodiscard]] bool isSeam(const Edge& edge) const {
+    if (edge.secondFace != Edge::none || lines.everyEdge) return false;
+    const ScreenVertex &a = frame.vertices[edge.from], &b = frame.vertices[edge.to];
+    const auto at = [&](float t) { return goesOn(edge.firstFace, between(a, b, t)) ? 1 : 0; };
+    return at(0.2F) + at(0.5F) + at(0.8F) >= 2;
+  }
+
+  [[nodiscard]] bool goesOn(std::uint32_t face, LinePoint p) const {
+    constexpr float outwards = 2.0F, sameDepth = 0.004F, samePlane = 0.95F;
+    const Vec2 middle = middleOf(face);
+    const float size = std::hypot(p.at.x - middle.x, p.at.y - middle.y);
+    if (size < 0.01F) return false;
+    const int x = static_cast<int>(p.at.x + (p.at.x - middle.x) / size * outwards);
+    const int y = static_cast<int>(p.at.y + (p.at.y - middle.y) / size * outwards);
+    if (x < frame.box.left || y < frame.box.top || x >= frame.box.right || y >= frame.box.bottom) return false;
+    const std::int32_t neighbour = frame.faces[frame.at(x, y)][0];
+    if (neighbour == Frame::nothing || std::fabs(frame.depths[frame.at(x, y)][0] - p.depth) > sameDepth) return false;
+    return std::fabs(dot(normalOf(face), normalOf(static_cast<std::uint32_t>(neighbour)))) > samePlane;
+  }
+
+  [[nodiscard]] const ScreenVertex& corner(std::uint32_t face, int number) const {
+    return frame.vertices[mesh.triangles[face].corners[number]];
+  }
+
+  [[nodiscard]] Vec2 middleOf(std::uint32_t face) const {
+    const ScreenVertex &a = corner(face, 0), &b = corner(face, 1), &c = corner(face, 2);
+    return {(a.x + b.x + c.x) / 3, (a.y + b.y + c.y) / 3};
+  }
+
+  [[nodiscard]] Vec3 normalOf(std::uint32_t face) const {
+    const Vec3 origin = corner(face, 0).place;
+    return normalized(cross(corner(face, 1).place - origin, corner(face, 2).place - origin));
   }
 
   [[nodiscard]] bool reachesPicture(const ScreenVertex& a, const ScreenVertex& b) const {
@@ -85,7 +124,7 @@ class LineDrawer {
 
   /// A line on the rim of a surface has that surface beside it only: looking at the neighbours too keeps it whole.
   [[nodiscard]] bool isVisible(LinePoint p) const {
-    constexpr float tolerance = 0.0012F;
+    constexpr float tolerance = 0.002F;
     const int x = static_cast<int>(p.at.x), y = static_cast<int>(p.at.y);
     if (x < 1 || y < 1 || x >= frame.width - 1 || y >= frame.height - 1) return true;
     const float* row = frame.farthest.data() + frame.at(x, y);

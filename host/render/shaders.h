@@ -49,7 +49,7 @@ struct NoShader : PlainGround {
 struct FacetShader : PlainGround {
   Lamp lamp;
   [[nodiscard]] Vec3 operator()(const SurfacePoint& p) const {
-    return p.color * (0.30F * skyLight(p.faceNormal) + 0.80F * lamp.reach(p.faceNormal));
+    return p.color * (0.38F * skyLight(p.faceNormal) + 0.72F * lamp.reach(p.faceNormal));
   }
 };
 
@@ -58,9 +58,9 @@ struct SmoothShader : PlainGround {
   [[nodiscard]] Vec3 operator()(const SurfacePoint& p) const {
     const float edgeOn = 1 - std::clamp(p.normal.z, 0.0F, 1.0F);
     const float rim = edgeOn * edgeOn * edgeOn * 0.10F * (0.6F + 0.4F * p.normal.y);
-    const float sky = 0.26F * skyLight(p.normal);
+    const float sky = 0.24F * skyLight(p.normal) + 0.12F * std::max(0.0F, p.normal.z);
     const Vec3 coolSky{sky * 0.94F, sky * 0.98F, sky * 1.08F};
-    const float sun = 0.86F * lamp.reach(p.normal);
+    const float sun = 0.80F * lamp.reach(p.normal);
     const Vec3 warmSun{sun * 1.02F, sun, sun * 0.96F};
     const float shine = highlight(p.normal) + rim;
     return p.color * (coolSky + warmSun) + Vec3{shine, shine, shine};

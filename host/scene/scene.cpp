@@ -13,8 +13,8 @@ constexpr double growthPerStep = 1.1;
 constexpr float smallestScale = 0.05F, largestScale = 20.0F;
 constexpr int mostSteps = 1000;  // keeps nonsense out of the arithmetic
 
-// From a little above and from the left: three sides of a thing tell more than one.
-constexpr Orientation homeOrientation{36'000 - 1'800, 36'000 - 3'000, 0};
+// From a little above, the front towards the lamp: three sides of a thing tell more than one.
+constexpr Orientation homeOrientation{36'000 - 1'800, 3'000, 0};
 
 int sane(int steps) { return std::clamp(steps, -mostSteps, mostSteps); }
 
