@@ -1,0 +1,77 @@
+"""Real input on the display, and pictures of it."""
+
+import subprocess
+import time
+from pathlib import Path
+
+
+def _run(*words):
+    subprocess.run([str(word) for word in words], check=True, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
+
+
+def centre(rect):
+    left, top, right, bottom = rect
+    return (left + right) // 2, (top + bottom) // 2
+
+
+def move(point):
+    _run("xdotool", "mousemove", *point)
+
+
+def click(point, button=1, count=1):
+    """Moves there, as a hand does, and clicks."""
+    _run("xdotool", "mousemove", *point, "sleep", "0.04", "click", "--repeat", count, "--delay", 60, button)
+
+
+def press_mouse(point):
+    _run("xdotool", "mousemove", *point, "sleep", "0.04", "mousedown", 1)
+
+
+def release_mouse(point=None):
+    if point:
+        move(point)
+    _run("xdotool", "mouseup", 1)
+
+
+def key(*names):
+    _run("xdotool", "key", "--delay", 40, *names)
+
+
+def type_text(text):
+    _run("xdotool", "type", "--delay", 30, text)
+
+
+def picture(path, area=None):
+    """Saves the screen, or the area (left, top, right, bottom) of it, as PNG."""
+    path = Path(path)
+    path.parent.mkdir(parents=True, exist_ok=True)
+    crop = []
+    if area:
+        left, top, right, bottom = area
+        crop = ["-crop", f"{right - left}x{bottom - top}+{left}+{top}"]
+    _run("import", "-window", "root", *crop, "+repage", path)
+
+
+class OtherProgram:
+    """A window of another program, to lose the focus to."""
+
+    def __enter__(self):
+        self.process = subprocess.Popen(["xmessage", "-geometry", "200x100+20+880", "-title", "Another program",
+                                         "Another program"], stdin=subprocess.DEVNULL)
+        self.window = self._find()
+        return self
+
+    def _find(self):
+        for _ in range(100):
+            found = subprocess.run(["xdotool", "search", "--name", "^Another program$"], capture_output=True, text=True)
+            if found.stdout.strip():
+                return found.stdout.split()[-1]
+            time.sleep(0.05)
+        raise TimeoutError("the other program did not open")
+
+    def activate(self):
+        _run("xdotool", "windowactivate", "--sync", self.window)
+
+    def __exit__(self, *_):
+        self.process.terminate()
+        self.process.wait()

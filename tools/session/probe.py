@@ -1,0 +1,73 @@
+"""The windows of the Wine desktop and their accessible elements, as an assistive tool sees them."""
+
+import json
+import subprocess
+import time
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[2]
+
+PRESSED, UNAVAILABLE, HOT, INVISIBLE, OFFSCREEN = 0x8, 0x1, 0x80, 0x8000, 0x10000
+PUSH_BUTTON = 0x2B
+
+
+def windows_path(path):
+    return "Z:" + str(Path(path).resolve()).replace("/", "\\")
+
+
+class Probe:
+    """One helper program for the whole session; every question is a line."""
+
+    def __init__(self, arch="x86"):
+        program = ROOT / "build" / f"windows-{arch}" / "tools" / "ui_probe" / "ui-probe.exe"
+        self.process = subprocess.Popen(["wine", str(program)], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                                        stderr=subprocess.DEVNULL, text=True, encoding="utf-8")
+
+    def ask(self, *words):
+        self.process.stdin.write(" ".join(str(word) for word in words) + "\n")
+        self.process.stdin.flush()
+        line = self.process.stdout.readline()
+        if not line:
+            raise RuntimeError("the probe has died")
+        return json.loads(line)
+
+    def close(self):
+        self.process.stdin.close()
+        self.process.wait(timeout=10)
+
+    def windows(self, title_start=None, class_name=None, visible=True):
+        """Top-level windows by the start of their title and by class."""
+        return [w for w in self.ask("windows")
+                if (title_start is None or w["title"].startswith(title_start))
+                and (class_name is None or w["class"] == class_name)
+                and (not visible or w["visible"])]
+
+    def window(self, title_start=None, class_name=None, timeout=10):
+        """The one window of that title, waited for."""
+        return wait_for(lambda: next(iter(self.windows(title_start, class_name)), None), timeout,
+                        f"window {title_start or class_name!r}")
+
+    def gone(self, title_start=None, class_name=None, timeout=10):
+        wait_for(lambda: not self.windows(title_start, class_name), timeout, f"{title_start or class_name!r} to go")
+
+    def elements(self, window):
+        return self.ask("elements", window["window"])
+
+    def element(self, window, name, role=None):
+        """The element of that accessible name inside a window."""
+        found = [e for e in self.elements(window) if e["name"] == name and (role is None or e["role"] == role)]
+        if not found:
+            raise LookupError(f"no element {name!r} in {window['title']!r}")
+        return found[0]
+
+
+def wait_for(condition, timeout=10, what="a condition"):
+    """Polls until the condition gives something true, and returns that."""
+    end = time.monotonic() + timeout
+    while True:
+        result = condition()
+        if result:
+            return result
+        if time.monotonic() > end:
+            raise TimeoutError(f"waited {timeout} s for {what}")
+        time.sleep(0.03)
