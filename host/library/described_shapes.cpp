@@ -29,34 +29,34 @@ Mesh boxShape(Fields& fields) {
   return makeBox(size, fields.number("round", 0));
 }
 
-Mesh sphereShape(Fields& fields) { return makeSphere(positive(fields, "sphere"), segmentsOf(fields, "segments", 28)); }
+Mesh sphereShape(Fields& fields) { return makeSphere(positive(fields, "sphere"), segmentsOf(fields, "segments", 20)); }
 
 Mesh cylinderShape(Fields& fields) {
   const double radius = positive(fields, "cylinder");
   return makeCylinder(radius, fields.number("top", radius), positive(fields, "height"), fields.number("round", 0),
-                      segmentsOf(fields, "segments", 32));
+                      segmentsOf(fields, "segments", 24));
 }
 
 Mesh coneShape(Fields& fields) {
-  return makeCylinder(positive(fields, "cone"), 0, positive(fields, "height"), 0, segmentsOf(fields, "segments", 32));
+  return makeCylinder(positive(fields, "cone"), 0, positive(fields, "height"), 0, segmentsOf(fields, "segments", 24));
 }
 
 Mesh torusShape(Fields& fields) {
-  return makeTorus(positive(fields, "torus"), positive(fields, "tube"), segmentsOf(fields, "segments", 32),
-                   segmentsOf(fields, "sides", 14));
+  return makeTorus(positive(fields, "torus"), positive(fields, "tube"), segmentsOf(fields, "segments", 24),
+                   segmentsOf(fields, "sides", 10));
 }
 
 std::vector<Vec> curveOf(Fields& fields, const char* key, bool closed, bool smoothByDefault) {
   const std::vector<Vec> points = fields.points(key);
   if (!fields.flag("smooth", smoothByDefault)) return points;
-  return smoothCurve(points, std::clamp(fields.integer("steps", 5), 1, 64), closed);
+  return smoothCurve(points, std::clamp(fields.integer("steps", 4), 1, 64), closed);
 }
 
 Mesh latheShape(Fields& fields) {
   const bool closed = fields.flag("closed", false);
   std::vector<Vec> profile = curveOf(fields, "lathe", closed, true);
   for (Vec& point : profile) point.x = std::max(point.x, 0.0);
-  return makeLathe(profile, closed, segmentsOf(fields, "segments", 36));
+  return makeLathe(profile, closed, segmentsOf(fields, "segments", 28));
 }
 
 Mesh extrusionShape(Fields& fields) {
@@ -86,7 +86,7 @@ Mesh tubeShape(Fields& fields) {
   const std::vector<double> radii =
       fields.has("radii") ? fields.numbers("radii") : std::vector{fields.number("radius")};
   if (radii.empty()) fields.fail("\"radii\" is empty");
-  return makeTube(path, radiiAlong(radii, path.size()), closed, segmentsOf(fields, "sides", 14));
+  return makeTube(path, radiiAlong(radii, path.size()), closed, segmentsOf(fields, "sides", 10));
 }
 
 /// Narrows a shape towards its upper end: `taper` is the size there, with 1 at the lower end.

@@ -9,7 +9,9 @@
 #define TINYGLTF_NO_EXTERNAL_IMAGE
 #define TINYGLTF_NO_INCLUDE_JSON
 #define TINYGLTF_NO_FS
+// tiny_gltf.h is told to take the JSON library that came before it.
 #include <nlohmann/json.hpp>
+
 #include <tiny_gltf.h>
 
 namespace nerida::library {

@@ -46,8 +46,12 @@ std::string indexLine(const ModelCard& card) {
   std::string line = std::to_string(card.number);
   for (const std::string& field : {card.name, card.category, card.subcategory}) line += '\t' + oneField(field);
   line += card.animated ? "\tanimated\t" : "\tstill\t";
-  for (std::size_t i = 0; i < card.keywords.size(); ++i) line += (i ? "," : "") + oneField(card.keywords[i]);
-  return line + '\n';
+  for (std::size_t i = 0; i < card.keywords.size(); ++i) {
+    if (i > 0) line += ',';
+    line += oneField(card.keywords[i]);
+  }
+  line += '\n';
+  return line;
 }
 
 std::vector<std::string> split(const std::string& text, char separator) {

@@ -8,11 +8,15 @@ namespace nerida::library {
 namespace {
 
 constexpr double pi = std::numbers::pi;
-constexpr int rimSteps = 3;
+constexpr int rimSteps = 2;
+
+/// A narrow edge of a box needs no more than a chamfer, whose smooth shading looks round.
+int edgeSteps(double round) { return round < 0.045 ? 1 : round < 0.12 ? 2 : 3; }
 
 /// Coordinates along one edge of a box: close together at the rounded ends, nothing in between.
 std::vector<double> boxMarks(double half, double round) {
   if (round <= 0) return {-half, half};
+  const int rimSteps = edgeSteps(round);
   std::vector<double> marks;
   for (int i = 0; i <= rimSteps; ++i) marks.push_back(-half + round * (1 - std::cos(pi / 2 * i / rimSteps)));
   for (int i = rimSteps; i >= 0; --i) marks.push_back(half - round * (1 - std::cos(pi / 2 * i / rimSteps)));

@@ -9,7 +9,22 @@ namespace nerida::library {
 namespace {
 
 constexpr double pi = std::numbers::pi;
-constexpr int rimSteps = 3;
+constexpr int rimSteps = 2;
+
+/// An inset that is wider than a corner's curve turns some edges around: those are drawn together into one point.
+void untangle(std::vector<Vec>& moved, const std::vector<Vec>& outline) {
+  const std::size_t count = outline.size();
+  bool turned = true;
+  for (std::size_t pass = 0; turned && pass < count; ++pass) {
+    turned = false;
+    for (std::size_t i = 0; i < count; ++i) {
+      const std::size_t next = (i + 1) % count;
+      if (dot(moved[next] - moved[i], outline[next] - outline[i]) >= 0) continue;
+      moved[i] = moved[next] = (moved[i] + moved[next]) * 0.5;
+      turned = true;
+    }
+  }
+}
 
 /// The outline moved inwards by `distance`, each corner along its bisector.
 std::vector<Vec> inset(const std::vector<Vec>& outline, double distance) {
@@ -24,6 +39,7 @@ std::vector<Vec> inset(const std::vector<Vec>& outline, double distance) {
     const double stretch = std::max(dot(bisector, inLeft), 0.4);
     result.push_back(outline[i] + bisector * (distance / stretch));
   }
+  untangle(result, outline);
   return result;
 }
 
@@ -40,6 +56,7 @@ std::uint32_t addRing(Mesh& mesh, const std::vector<Vec>& outline, double z) {
   return first;
 }
 
+/// The end rings belong to `outline` point by point, so that its triangles serve for both of them.
 void addCaps(Mesh& mesh, const std::vector<Vec>& outline, std::uint32_t back, std::uint32_t front) {
   for (const auto& [a, b, c] : triangulate(outline)) {
     mesh.addTriangle(front + a, front + b, front + c);
@@ -98,19 +115,18 @@ Mesh makeExtrusion(std::vector<Vec> outline, double depth, double bevel) {
   const double round = std::min(bevel, depth / 2);
   Mesh mesh;
   std::vector<std::uint32_t> rings;
-  std::vector<Vec> cap = outline;
   const int steps = round > 0 ? rimSteps : 0;
   for (int side = -1; side <= 1; side += 2) {
     for (int step = 0; step <= steps; ++step) {
       const double angle = steps == 0 ? 0 : pi / 2 * (side < 0 ? steps - step : step) / steps;
-      cap = inset(outline, round * (1 - std::cos(angle)));
-      rings.push_back(addRing(mesh, cap, side * (depth / 2 - round * (1 - std::sin(angle)))));
+      const std::vector<Vec> ring = inset(outline, round * (1 - std::cos(angle)));
+      rings.push_back(addRing(mesh, ring, side * (depth / 2 - round * (1 - std::sin(angle)))));
     }
   }
   for (std::size_t i = 0; i + 1 < rings.size(); ++i) {
     joinRings(mesh, rings[i], rings[i + 1], static_cast<std::uint32_t>(outline.size()));
   }
-  addCaps(mesh, cap, rings.front(), rings.back());
+  addCaps(mesh, outline, rings.front(), rings.back());
   return mesh;
 }
 
