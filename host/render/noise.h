@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 
 namespace nerida {
@@ -25,6 +27,21 @@ inline float softGrain(float x, float y) {
   const float top = grain(column, line) * (1 - u) + grain(column + 1, line) * u;
   const float bottom = grain(column, line + 1) * (1 - u) + grain(column + 1, line + 1) * u;
   return top * (1 - v) + bottom * v;
+}
+
+/// The unevenness of drawing paper, 0 to 1: a sheet that is made once and laid out again and again.
+inline float paperGrain(int x, int y) {
+  constexpr int side = 256;
+  static const auto sheet = [] {
+    std::array<float, side * side> values{};
+    for (int i = 0; i < side * side; ++i) {
+      const int column = i % side, line = i / side;
+      const float soft = softGrain(static_cast<float>(column) * 0.3F, static_cast<float>(line) * 0.3F);
+      values[static_cast<std::size_t>(i)] = (soft + grain(column, line)) / 2;
+    }
+    return values;
+  }();
+  return sheet[static_cast<std::size_t>((y & (side - 1)) * side + (x & (side - 1)))];
 }
 
 }  // namespace nerida

@@ -108,10 +108,7 @@ struct PencilShader {
   float unit = 1;  ///< pixels between hatches grow with the picture
   ToneEncoder encode{};
 
-  [[nodiscard]] std::uint32_t background(int x, int y) const {
-    return encode(paper * (1 - 0.05F * grain(x, y) -
-                           0.05F * softGrain(static_cast<float>(x) * 0.3F, static_cast<float>(y) * 0.3F)));
-  }
+  [[nodiscard]] std::uint32_t background(int x, int y) const { return encode(paper * (1 - 0.1F * paperGrain(x, y))); }
 
   [[nodiscard]] Vec3 operator()(const SurfacePoint& p) const {
     const float light =
