@@ -5,14 +5,11 @@
 #include "platform/error.h"
 #include "platform/win32/call_frame.h"
 #include "platform/win32/late_binding.h"
-#include "platform/win32/script_array.h"
 #include "platform/win32/status.h"
 #include "platform/win32/variant.h"
 
 namespace nerida {
 namespace {
-
-bool isArray(const Value& value) { return std::holds_alternative<std::shared_ptr<const Array>>(value); }
 
 class DispatchObject : public Object {
  public:
@@ -31,38 +28,17 @@ class DispatchObject : public Object {
   ComPtr<IDispatch> dispatch;
 };
 
-// Whether the failure only says that a typed reference was refused, so that the member has not run.
-bool refusesTypedReferences(const Outcome& outcome, IDispatch& object) {
-  if (outcome.status == DISP_E_TYPEMISMATCH) return outcome.refusedArgument >= 0;
-  return outcome.status == E_NOTIMPL && isScriptObject(object);
+// An object that says which argument it refused has not run, so it may be asked again.
+bool refusesTypedReference(const Outcome& outcome) {
+  return outcome.status == DISP_E_TYPEMISMATCH && outcome.refusedArgument >= 0;
 }
 
-Outcome invokeWithReferences(IDispatch& object, const Member& member, CallFrame& frame, Variant& result,
+Outcome invokeWithReferences(IDispatch& object, DISPID member, CallFrame& frame, Variant& result,
                              EXCEPINFO& exception) {
-  const auto form = member.scriptClass ? ReferenceForm::variant : ReferenceForm::typed;
-  const Outcome outcome = invoke(object, member.id, DISPATCH_METHOD, frame.arguments(form), &result, exception);
-  if (SUCCEEDED(outcome.status) || !frame.hasReferences() || !refusesTypedReferences(outcome, object)) return outcome;
-  return invoke(object, member.id, DISPATCH_METHOD, frame.arguments(ReferenceForm::variant), &result, exception);
-}
-
-// Script languages that do not fill references can still return an array, and theirs are objects.
-void offerScriptArray(Value& value) {
-  const auto* object = std::get_if<ObjectRef>(&value);
-  if (object == nullptr || *object == nullptr) return;
-  ComPtr<IDispatch> dispatch;
-  *dispatch.put() = dispatchOf(*object);
-  if (!dispatch) return;
-  if (auto array = fromScriptArray(*dispatch.get())) value = std::move(array);
-}
-
-void offerScriptArrays(std::span<Argument> arguments, Value& result) {
-  bool filled = false;
-  for (const Argument& argument : arguments) {
-    if (argument.variable == nullptr) continue;
-    offerScriptArray(*argument.variable);
-    filled = filled || isArray(*argument.variable);
-  }
-  if (!filled) offerScriptArray(result);
+  const auto form = isScriptObject(object) ? ReferenceForm::variant : ReferenceForm::typed;
+  const Outcome outcome = invoke(object, member, DISPATCH_METHOD, frame.arguments(form), &result, exception);
+  if (!refusesTypedReference(outcome)) return outcome;
+  return invoke(object, member, DISPATCH_METHOD, frame.arguments(ReferenceForm::variant), &result, exception);
 }
 
 // Every access holds a reference of its own: the model may make the library let go of it while it runs.
@@ -86,11 +62,11 @@ Value DispatchObject::get(const std::string& member) {
 
 void DispatchObject::let(const std::string& member, const Value& value) {
   guardedAccess(dispatch, [&](IDispatch& object) {
-    const Member found = findMember(object, member);
+    const DISPID found = findMember(object, member);
     Variant content;
     toVariant(value, content);
     EXCEPINFO exception = {};
-    const auto outcome = invoke(object, found.id, DISPATCH_PROPERTYPUT,
+    const auto outcome = invoke(object, found, DISPATCH_PROPERTYPUT,
                                 std::span<VARIANT>(static_cast<VARIANT*>(&content), 1), nullptr, exception);
     if (FAILED(outcome.status)) throw errorFromInvoke(outcome.status, exception);
   });
@@ -98,16 +74,16 @@ void DispatchObject::let(const std::string& member, const Value& value) {
 
 Value DispatchObject::call(const std::string& member, std::span<Argument> arguments) {
   return guardedAccess(dispatch, [&](IDispatch& object) {
-    const Member found = findMember(object, member);
+    const DISPID found = findMember(object, member);
     CallFrame frame(arguments);
     Variant result;
     EXCEPINFO exception = {};
-    const Outcome outcome = invokeWithReferences(object, found, frame, result, exception);
+    const Outcome outcome = frame.hasReferences() ? invokeWithReferences(object, found, frame, result, exception)
+                                                  : invoke(object, found, DISPATCH_METHOD,
+                                                           frame.arguments(ReferenceForm::typed), &result, exception);
     frame.writeBack();
     if (FAILED(outcome.status)) throw errorFromInvoke(outcome.status, exception);
-    Value value = fromVariant(result);
-    if (frame.hasReferences()) offerScriptArrays(arguments, value);
-    return value;
+    return fromVariant(result);
   });
 }
 

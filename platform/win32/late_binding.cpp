@@ -17,35 +17,41 @@ ComPtr<IDispatchEx> dispatchEx(IDispatch& object) {
   return result;
 }
 
-// A script engine answers this for a data property that is asked for as "property or function".
-bool isDataPropertyRefusal(HRESULT status, IDispatch& object, const Member& member) {
-  return status == E_FAIL && !member.scriptClass && isScriptObject(object);
+bool hasMember(IDispatch& object, const wchar_t* name) {
+  auto* asked = const_cast<LPOLESTR>(name);
+  DISPID id = DISPID_UNKNOWN;
+  return SUCCEEDED(object.GetIDsOfNames(IID_NULL, &asked, 1, LOCALE_USER_DEFAULT, &id));
 }
 
-void discard(EXCEPINFO& exception) {
-  SysFreeString(exception.bstrDescription);
-  SysFreeString(exception.bstrSource);
-  SysFreeString(exception.bstrHelpFile);
-  exception = {};
+bool isScriptFunction(const VARIANT& value) {
+  return value.vt == VT_DISPATCH && value.pdispVal != nullptr && hasMember(*value.pdispVal, L"call");
+}
+
+// Script engines fail, and tell their host so, when a data property is asked for as "property or function". So it is
+// read as a property, which gives a function as an object without running it.
+HRESULT getFromScript(IDispatch& object, DISPID member, Variant& result, EXCEPINFO& exception) {
+  const HRESULT status = invoke(object, member, DISPATCH_PROPERTYGET, {}, &result, exception).status;
+  const bool needsCall = SUCCEEDED(status) ? isScriptFunction(result) : status == DISP_E_MEMBERNOTFOUND;
+  if (!needsCall) return status;
+  VariantClear(&result);
+  return invoke(object, member, DISPATCH_METHOD, {}, &result, exception).status;
 }
 
 }  // namespace
 
 bool isScriptObject(IDispatch& object) { return static_cast<bool>(dispatchEx(object)); }
 
-Member findMember(IDispatch& object, const std::string& name) {
-  Member result;
+DISPID findMember(IDispatch& object, const std::string& name) {
+  DISPID member = DISPID_UNKNOWN;
   const Bstr text{std::string_view(name)};
   OLECHAR* names[] = {text.get()};
-  HRESULT status = object.GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &result.id);
+  HRESULT status = object.GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &member);
   if (status == E_NOTIMPL) {
-    if (const auto script = dispatchEx(object)) {
-      result.scriptClass = true;
-      status = script->GetDispID(text.get(), fdexNameCaseInsensitive, &result.id);
-    }
+    const auto script = dispatchEx(object);
+    status = script ? script->GetDispID(text.get(), fdexNameCaseInsensitive, &member) : DISP_E_UNKNOWNNAME;
   }
-  if (FAILED(status)) throw errorFromStatus(status == E_NOTIMPL ? DISP_E_UNKNOWNNAME : status);
-  return result;
+  if (FAILED(status)) throw errorFromStatus(status);
+  return member;
 }
 
 Outcome invoke(IDispatch& object, DISPID member, WORD flags, std::span<VARIANT> arguments, VARIANT* result,
@@ -62,13 +68,12 @@ Outcome invoke(IDispatch& object, DISPID member, WORD flags, std::span<VARIANT> 
 }
 
 void getMember(IDispatch& object, const std::string& name, Variant& result) {
-  const Member member = findMember(object, name);
+  const DISPID member = findMember(object, name);
   EXCEPINFO exception = {};
-  HRESULT status = invoke(object, member.id, DISPATCH_METHOD | DISPATCH_PROPERTYGET, {}, &result, exception).status;
-  if (isDataPropertyRefusal(status, object, member)) {
-    discard(exception);
-    status = invoke(object, member.id, DISPATCH_PROPERTYGET, {}, &result, exception).status;
-  }
+  const HRESULT status =
+      isScriptObject(object)
+          ? getFromScript(object, member, result, exception)
+          : invoke(object, member, DISPATCH_METHOD | DISPATCH_PROPERTYGET, {}, &result, exception).status;
   if (FAILED(status)) throw errorFromInvoke(status, exception);
 }
 

@@ -10,18 +10,11 @@
 
 namespace nerida {
 
-// A member found by name.
-struct Member {
-  DISPID id = DISPID_UNKNOWN;
-  // The class of a script language found it, whose own name look-up is not implemented. Such a class receives by-ref
-  // arguments only as references to variants: others it takes without an error and never fills.
-  bool scriptClass = false;
-};
-
 // Error 438 when the object has no such member.
-Member findMember(IDispatch& object, const std::string& name);
+DISPID findMember(IDispatch& object, const std::string& name);
 
-// Whether the object is one of a script language's.
+// Whether the object is one of a script language's. These receive by-ref arguments only as references to variants:
+// others they refuse, or take without ever filling them.
 bool isScriptObject(IDispatch& object);
 
 // What an invocation came to: its status, and which argument the object refused before it ran (-1 for none).
