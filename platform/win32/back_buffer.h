@@ -15,8 +15,10 @@ class BackBuffer {
   void copyTo(HDC target, int width, int height);
 
  private:
-  UniqueMemoryDc dc;
+  void grow(int newWidth, int newHeight);
+
   UniqueBitmap bitmap;
+  UniqueMemoryDc dc;  // goes before the bitmap that is selected into it
   std::uint32_t* pixels = nullptr;
   int width = 0;
   int height = 0;

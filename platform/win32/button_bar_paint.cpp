@@ -27,21 +27,24 @@ struct Look {
   bool latched;
 };
 
+// Faces are tinted with the colour of selections: on desktops whose faces are nearly white, light and shadow alone
+// would not tell the states apart.
 void paintFace(PixelCanvas& canvas, Box box, const Look& look) {
+  if (!look.held && !look.latched && !look.hot) return;
   const Rgb face = systemColor(COLOR_BTNFACE);
+  const Rgb tint = systemColor(COLOR_HIGHLIGHT);
   const Rgb light = systemColor(COLOR_BTNHIGHLIGHT);
   const Rgb shadow = systemColor(COLOR_BTNSHADOW);
   const Box inside = {box.left + 1, box.top + 1, box.right - 1, box.bottom - 1};
   if (look.held) {
-    canvas.fill(inside, mixed(face, shadow, 35));
-    canvas.frame(box, mixed(shadow, 0, 35), light);
+    canvas.fill(inside, mixed(face, tint, 38));
+    canvas.frame(box, mixed(tint, 0, 35), mixed(tint, light, 40));
   } else if (look.latched) {
-    const Rgb pale = mixed(face, light, look.hot ? 100 : 75);
-    canvas.fillChecked(inside, pale, look.hot ? pale : mixed(face, light, 30));
-    canvas.frame(box, mixed(shadow, 0, 20), light);
-  } else if (look.hot) {
-    canvas.fill(inside, mixed(face, light, 55));
-    canvas.frame(box, light, shadow);
+    canvas.fillChecked(inside, mixed(face, tint, look.hot ? 30 : 24), mixed(face, tint, look.hot ? 22 : 14));
+    canvas.frame(box, mixed(tint, shadow, 50), mixed(tint, light, 45));
+  } else {
+    canvas.fill(inside, mixed(light, tint, 10));
+    canvas.frame(box, mixed(light, tint, 30), mixed(shadow, tint, 50));
   }
 }
 
@@ -51,7 +54,7 @@ void SystemButtonBar::measure(BarLayout& measured) {
   const Scale& scale = form().scale();
   const HDC dc = form().backBuffer().context();
   const Selected font(dc, form().font());
-  const LONG height = size().cy;
+  const SIZE bar = size();
   LONG left = 0;
   for (BarButton& item : measured.buttons) {
     LONG width = scale.design(item.spec.width) + 2 * scale.design(edge);
@@ -60,8 +63,10 @@ void SystemButtonBar::measure(BarLayout& measured) {
       GetTextExtentPoint32W(dc, item.caption.c_str(), static_cast<int>(item.caption.size()), &text);
       width += scale.design(captionGap) + text.cx + scale.design(captionEnd);
     }
-    item.area = {left, 0, left + width, height};
-    left += width;
+    // A caption that needs more room than there is gets shorter; the button stays a whole one.
+    const LONG right = left < bar.cx ? std::min(left + width, bar.cx) : left + width;
+    item.area = {left, 0, right, bar.cy};
+    left = right;
   }
 }
 
@@ -116,8 +121,9 @@ void SystemButtonBar::paintCaption(HDC dc, int index) {
   const Scale& scale = form().scale();
   RECT text = item.area;
   text.left = pictureOrigin(item, index).x + scale.design(item.spec.width) + scale.design(captionGap);
+  text.right -= scale.design(edge);
   OffsetRect(&text, 0, looksDown(index) ? 1 : 0);
-  constexpr UINT format = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_NOCLIP;
+  constexpr UINT format = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS;
   const auto write = [&](int color) {
     SetTextColor(dc, GetSysColor(color));
     DrawTextW(dc, item.caption.c_str(), static_cast<int>(item.caption.size()), &text, format);
