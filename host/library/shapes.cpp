@@ -11,7 +11,7 @@ constexpr double pi = std::numbers::pi;
 constexpr int rimSteps = 2;
 
 /// A narrow edge of a box needs no more than a chamfer, whose smooth shading looks round.
-int edgeSteps(double round) { return round < 0.045 ? 1 : round < 0.12 ? 2 : 3; }
+int edgeSteps(double round) { return round < 0.06 ? 1 : round < 0.2 ? 2 : 3; }
 
 /// Coordinates along one edge of a box: close together at the rounded ends, nothing in between.
 std::vector<double> boxMarks(double half, double round) {
