@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "host/app/model_arguments.h"
+
+namespace nerida::host {
+
+enum class CallKind { get, let, call };
+
+/// One use of a member, as it came in and as it ended.
+struct CallRecord {
+  CallKind kind;
+  std::wstring_view member;
+  const Arguments& arguments;
+  const VARIANT* result;  ///< null when the caller wanted none
+  std::string failure;    ///< empty when it went well
+};
+
+/// What is told about every use of the object.
+class CallListener {
+ public:
+  virtual ~CallListener() = default;
+  virtual void called(const CallRecord& record) = 0;
+};
+
+/// A call as one line: `RotateX(2:I2)`, `let IsToolbarShowing = True`, `get ModelName -> "Windmill"`.
+std::string lineOf(const CallRecord& record);
+
+/// A value the way it is written in such a line, without its type.
+std::string writtenValue(const VARIANT& value);
+
+/// A file with one line for each call, written at once so that it can be followed.
+class CallLog {
+ public:
+  /// Throws std::runtime_error when the file cannot be written.
+  explicit CallLog(const std::filesystem::path& file);
+  void write(const CallRecord& record);
+
+ private:
+  struct Close {
+    void operator()(std::FILE* open) const { std::fclose(open); }
+  };
+  std::unique_ptr<std::FILE, Close> file;
+};
+
+}  // namespace nerida::host

@@ -1,0 +1,286 @@
+#include "host/app/document_window.h"
+
+#include <windows.h>
+// Both build on the one above.
+#include <commdlg.h>
+#include <windowsx.h>
+
+#include <algorithm>
+
+#include "host/app/resource.h"
+
+namespace nerida::host {
+namespace {
+
+constexpr const wchar_t* className = L"ZephraDocument";
+constexpr const wchar_t* productName = L"Zephra Document";
+
+void registerWindowClass(HINSTANCE program, WNDPROC procedure) {
+  WNDCLASSEXW description = {};
+  description.cbSize = sizeof description;
+  description.style = CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW;
+  description.lpfnWndProc = procedure;
+  description.hInstance = program;
+  description.hIcon = LoadIconW(program, MAKEINTRESOURCEW(IDI_PROGRAM));
+  description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  description.lpszMenuName = MAKEINTRESOURCEW(IDM_MAIN);
+  description.lpszClassName = className;
+  RegisterClassExW(&description);
+}
+
+HFONT messageFont() {
+  NONCLIENTMETRICSW system = {};
+  system.cbSize = sizeof system;
+  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof system, &system, 0);
+  return CreateFontIndirectW(&system.lfMessageFont);
+}
+
+RECT usualPlace(Metrics metrics) {
+  RECT work;
+  SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+  const int width = std::min(metrics.px(960), widthOf(work));
+  const int height = std::min(metrics.px(800), heightOf(work));
+  const LONG left = work.left + (widthOf(work) - width) / 2, top = work.top + (heightOf(work) - height) / 2;
+  return {left, top, left + width, top + height};
+}
+
+std::wstring escapedForMenuText(const std::string& name) { return wide(name.empty() ? "(no model)" : name); }
+
+}  // namespace
+
+DocumentWindow::DocumentWindow(HINSTANCE program, Metrics metrics)
+    : program(program),
+      metrics(metrics),
+      object(metrics),
+      editing(object, metrics),
+      painter(metrics),
+      statusFont(messageFont()) {}
+
+void DocumentWindow::create(const Options& options) {
+  if (options.log) object.logTo(*options.log);
+  registerWindowClass(program, procedure);
+  RECT place = usualPlace(metrics);
+  if (options.place) {
+    const auto& [x, y, width, height] = *options.place;
+    place = {x, y, x + width, y + height};
+  }
+  CreateWindowExW(0, className, productName, WS_OVERLAPPEDWINDOW, place.left, place.top, widthOf(place),
+                  heightOf(place), nullptr, nullptr, program, this);
+  if (window == nullptr) throw std::runtime_error("The document's window could not be made.");
+  object.attach(window);
+  showTitle();
+}
+
+LRESULT CALLBACK DocumentWindow::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_NCCREATE) {
+    auto* self = static_cast<DocumentWindow*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
+    self->window = window;
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
+  }
+  auto* self = reinterpret_cast<DocumentWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  if (self == nullptr) return DefWindowProcW(window, message, wParam, lParam);
+  try {
+    return self->handleMessage(message, wParam, lParam);
+  } catch (...) {
+    return 0;
+  }
+}
+
+LRESULT DocumentWindow::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_PAINT:
+      paint();
+      return 0;
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_SIZE:
+      resized(wParam);
+      return 0;
+    case WM_TIMER:
+      object.timePasses();
+      return 0;
+    case WM_COMMAND:
+      command(LOWORD(wParam));
+      return 0;
+    case WM_KEYDOWN:
+      keyDown(wParam);
+      return 0;
+    case WM_LBUTTONDOWN:
+      buttonDown({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+      return 0;
+    case WM_LBUTTONDBLCLK:
+      doubleClick({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+      return 0;
+    case messageModelLoaded:
+      showTitle();
+      return 0;
+    case messageCatalogDone:
+      edit([this] { editing.catalogClosed(window); });
+      return 0;
+    case WM_CLOSE:
+      close();
+      return 0;
+    case WM_DESTROY:
+      object.attach(nullptr);
+      PostQuitMessage(0);
+      return 0;
+    default:
+      return DefWindowProcW(window, message, wParam, lParam);
+  }
+}
+
+void DocumentWindow::command(WORD id) {
+  switch (id) {
+    case IDM_OPEN:
+      chooseModel();
+      break;
+    case IDM_EXIT:
+      PostMessageW(window, WM_CLOSE, 0, 0);
+      break;
+    case IDM_EDIT_OBJECT:
+      activate();
+      break;
+    case IDM_LEAVE_OBJECT:
+      deactivate();
+      break;
+    case IDM_ABOUT:
+      about();
+      break;
+    default:
+      break;
+  }
+}
+
+void DocumentWindow::keyDown(WPARAM key) {
+  if (key == VK_RETURN) activate();
+  if (key == VK_ESCAPE) deactivate();
+}
+
+void DocumentWindow::buttonDown(POINT point) {
+  const RECT frame = object.areaWithFrame();
+  if (!PtInRect(&frame, point)) deactivate();
+}
+
+void DocumentWindow::doubleClick(POINT point) {
+  if (PtInRect(&object.area(), point)) activate();
+}
+
+template <typename Action>
+void DocumentWindow::edit(Action action) {
+  try {
+    action();
+  } catch (const ControlError& error) {
+    say(error.what(), MB_ICONWARNING);
+  }
+  const RECT frame = object.areaWithFrame();
+  InvalidateRect(window, &frame, FALSE);
+  const RECT strip = statusStrip();
+  InvalidateRect(window, &strip, FALSE);
+}
+
+void DocumentWindow::activate() {
+  edit([this] { editing.begin(window); });
+}
+
+void DocumentWindow::deactivate() {
+  edit([this] { editing.end(); });
+}
+
+void DocumentWindow::open(const std::filesystem::path& model) {
+  try {
+    object.model().open(model);
+  } catch (const ModelError& error) {
+    const std::string file = utf8(model.filename().wstring());
+    say("The model \"" + file + "\" cannot be opened.\n\n" + error.what(), MB_ICONWARNING);
+    return;
+  }
+  edit([this] { editing.modelReplaced(window); });
+}
+
+void DocumentWindow::chooseModel() {
+  wchar_t file[32'768] = L"";
+  OPENFILENAMEW question = {};
+  question.lStructSize = sizeof question;
+  question.hwndOwner = window;
+  question.lpstrFilter = L"3D models (*.twe)\0*.twe\0All files\0*.*\0";
+  question.lpstrTitle = L"Open model";
+  question.lpstrFile = file;
+  question.nMaxFile = static_cast<DWORD>(std::size(file));
+  question.Flags = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
+  if (GetOpenFileNameW(&question)) open(file);
+}
+
+void DocumentWindow::showTitle() {
+  const std::wstring name = wide(object.model().name());
+  SetWindowTextW(window, name.empty() ? productName : (std::wstring(productName) + L" - " + name).c_str());
+  InvalidateRect(window, nullptr, FALSE);
+}
+
+void DocumentWindow::about() {
+  say("Zephra Document\n\nA page with a 3D object that is edited in place.\nDouble-click the object to begin.",
+      MB_ICONINFORMATION);
+}
+
+void DocumentWindow::say(const std::string& text, UINT icon) const {
+  MessageBoxW(window, wide(text).c_str(), productName, MB_OK | icon);
+}
+
+void DocumentWindow::close() {
+  editing.close();
+  DestroyWindow(window);
+}
+
+RECT DocumentWindow::desk() const {
+  RECT area;
+  GetClientRect(window, &area);
+  area.bottom = std::max(area.top, area.bottom - metrics.px(24));
+  return area;
+}
+
+RECT DocumentWindow::statusStrip() const {
+  RECT area;
+  GetClientRect(window, &area);
+  area.top = std::max(area.top, area.bottom - metrics.px(24));
+  return area;
+}
+
+void DocumentWindow::resized(WPARAM how) {
+  object.animationChanged();
+  if (how == SIZE_MINIMIZED) return;
+  HDC dc = GetDC(window);
+  layout = painter.layOut(dc, desk());
+  ReleaseDC(window, dc);
+  object.place(layout.object);
+}
+
+void DocumentWindow::paint() {
+  PAINTSTRUCT scope;
+  HDC dc = BeginPaint(window, &scope);
+  object.paint(dc, editing.active());
+  const RECT done = editing.active() ? object.areaWithFrame() : inflated(object.area(), 1);
+  ExcludeClipRect(dc, done.left, done.top, done.right, done.bottom);
+  RECT rest;
+  if (GetClipBox(dc, &rest) != NULLREGION) {
+    paintStatus(dc, statusStrip());
+    painter.paint(dc, desk(), layout, escapedForMenuText(object.model().name()));
+  }
+  EndPaint(window, &scope);
+}
+
+void DocumentWindow::paintStatus(HDC dc, const RECT& strip) const {
+  FillRect(dc, &strip, GetSysColorBrush(COLOR_BTNFACE));
+  RECT edge = strip;
+  DrawEdge(dc, &edge, BDR_RAISEDINNER, BF_TOP);
+  RECT text = strip;
+  InflateRect(&text, -metrics.px(10), 0);
+  const Selected chosen(dc, statusFont.get());
+  SetBkMode(dc, TRANSPARENT);
+  SetTextColor(dc, GetSysColor(COLOR_BTNTEXT));
+  constexpr UINT line = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS;
+  const wchar_t* hint =
+      editing.active() ? L"Editing \u2013 click beside the object to leave it" : L"Double-click the object to edit it";
+  DrawTextW(dc, hint, -1, &text, line | DT_RIGHT);
+  DrawTextW(dc, object.lastCall().c_str(), -1, &text, line);
+}
+
+}  // namespace nerida::host

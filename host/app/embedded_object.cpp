@@ -1,0 +1,142 @@
+#include "host/app/embedded_object.h"
+
+#include <algorithm>
+
+#include "host/app/call_words.h"
+
+namespace nerida::host {
+namespace {
+
+constexpr UINT_PTR animationTimer = 1;
+constexpr UINT framePeriod = 30;  // milliseconds; shows every frame of a 30 Hz animation
+constexpr COLORREF restingFrame = RGB(176, 180, 188);
+constexpr COLORREF activeFrame = RGB(36, 48, 72);
+
+LONGLONG now() {
+  LARGE_INTEGER count;
+  QueryPerformanceCounter(&count);
+  return count.QuadPart;
+}
+
+double secondsSince(LONGLONG start) {
+  LARGE_INTEGER frequency;
+  QueryPerformanceFrequency(&frequency);
+  return static_cast<double>(now() - start) / static_cast<double>(frequency.QuadPart);
+}
+
+void blit(HDC dc, const RECT& area, const Picture& picture) {
+  BITMAPINFO info = {};
+  info.bmiHeader.biSize = sizeof info.bmiHeader;
+  info.bmiHeader.biWidth = picture.width;
+  info.bmiHeader.biHeight = -picture.height;
+  info.bmiHeader.biPlanes = 1;
+  info.bmiHeader.biBitCount = 32;
+  SetDIBitsToDevice(dc, area.left, area.top, static_cast<DWORD>(picture.width), static_cast<DWORD>(picture.height), 0,
+                    0, 0, static_cast<UINT>(picture.height), picture.pixels.data(), &info, DIB_RGB_COLORS);
+}
+
+// Eight of them: the corners and the middles of the sides.
+void paintHandles(HDC dc, const RECT& frame, int size) {
+  const GdiObject brush(CreateSolidBrush(activeFrame));
+  for (int column = 0; column < 3; ++column) {
+    for (int row = 0; row < 3; ++row) {
+      if (column == 1 && row == 1) continue;
+      const LONG x = frame.left + (widthOf(frame) - size) * column / 2;
+      const LONG y = frame.top + (heightOf(frame) - size) * row / 2;
+      const RECT handle = {x, y, x + size, y + size};
+      FillRect(dc, &handle, brush.get());
+    }
+  }
+}
+
+}  // namespace
+
+EmbeddedObject::EmbeddedObject(Metrics metrics)
+    : metrics(metrics), object(*this), dispatch(new ModelDispatch(object, *this)) {}
+
+EmbeddedObject::~EmbeddedObject() {
+  dispatch->disconnect();
+  dispatch->Release();
+}
+
+void EmbeddedObject::place(const RECT& area) {
+  bounds = area;
+  outOfDate = true;
+}
+
+RECT EmbeddedObject::areaWithFrame() const { return inflated(bounds, metrics.px(8)); }
+
+void EmbeddedObject::render() {
+  if (!outOfDate) return;
+  picture.resize(widthOf(bounds), heightOf(bounds));
+  object.scene.render(picture);
+  outOfDate = false;
+}
+
+void EmbeddedObject::paintActiveFrame(HDC dc) const {
+  const RECT frame = areaWithFrame();
+  const int saved = SaveDC(dc);
+  ExcludeClipRect(dc, bounds.left, bounds.top, bounds.right, bounds.bottom);
+  SetBkColor(dc, RGB(255, 255, 255));
+  SetTextColor(dc, activeFrame);
+  const GdiObject hatch(CreateHatchBrush(HS_BDIAGONAL, activeFrame));
+  FillRect(dc, &frame, hatch.get());
+  paintHandles(dc, frame, metrics.px(8));
+  RestoreDC(dc, saved);
+}
+
+void EmbeddedObject::paint(HDC dc, bool active) {
+  render();
+  blit(dc, bounds, picture);
+  if (active) {
+    paintActiveFrame(dc);
+    return;
+  }
+  const GdiObject brush(CreateSolidBrush(restingFrame));
+  const RECT frame = inflated(bounds, 1);
+  FrameRect(dc, &frame, brush.get());
+}
+
+void EmbeddedObject::timePasses() {
+  const double seconds = secondsSince(lastTick);
+  lastTick = now();
+  if (object.scene.animation.tick(seconds)) displayChanged();
+  if (!object.scene.animation.advancing()) animationChanged();
+}
+
+void EmbeddedObject::displayChanged() {
+  outOfDate = true;
+  if (window != nullptr) InvalidateRect(window, &bounds, FALSE);
+}
+
+void EmbeddedObject::animationChanged() {
+  if (window == nullptr) return;
+  if (object.scene.animation.advancing() && !IsIconic(window)) {
+    lastTick = now();
+    SetTimer(window, animationTimer, framePeriod, nullptr);
+  } else {
+    KillTimer(window, animationTimer);
+  }
+}
+
+void EmbeddedObject::modelLoaded() {
+  modelIsNew = true;
+  if (window != nullptr) PostMessageW(window, messageModelLoaded, 0, 0);
+}
+
+void EmbeddedObject::catalogDone() {
+  if (window != nullptr) PostMessageW(window, messageCatalogDone, 0, 0);
+}
+
+void EmbeddedObject::called(const CallRecord& record) {
+  if (log) log->write(record);
+  const std::string text = wordsFor(record);
+  if (text.empty() || window == nullptr) return;
+  words = wide(text);
+  RECT client;
+  GetClientRect(window, &client);
+  client.top = client.bottom - metrics.px(24);
+  InvalidateRect(window, &client, FALSE);
+}
+
+}  // namespace nerida::host

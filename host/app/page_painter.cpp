@@ -1,0 +1,123 @@
+#include "host/app/page_painter.h"
+
+#include <algorithm>
+
+namespace nerida::host {
+namespace {
+
+constexpr COLORREF deskColor = RGB(152, 156, 164);
+constexpr COLORREF shadowColor = RGB(120, 124, 132);
+constexpr COLORREF edgeColor = RGB(100, 104, 112);
+constexpr COLORREF paperColor = RGB(255, 255, 255);
+constexpr COLORREF headingColor = RGB(36, 48, 72);
+constexpr COLORREF textColor = RGB(92, 96, 104);
+
+constexpr const wchar_t* headingText = L"Things to Turn Around";
+constexpr const wchar_t* introductionText =
+    L"A picture shows one side of a thing. The object below has all of them: double-click it, tilt it with the "
+    L"toolbar, try another style, and click beside it when it looks right. The page keeps what you chose.";
+constexpr const wchar_t* bodyTexts[] = {
+    L"Drawings have explained machines for centuries. An artist picked one moment and one point of view, and left the "
+    L"rest to the reader. A model leaves nothing out; it can be seen from the front, from above, or from the side that "
+    L"the question happens to be about.",
+    L"Style matters as much as the view. A shaded model looks like the thing itself, an ink outline like a page of a "
+    L"handbook, and a wireframe tells how everything was put together. Lines may be thinner or bolder, surfaces may "
+    L"take the colours of the text around them.",
+    L"Where something moves, let it move: models with an animation play it in place, once or for as long as the page "
+    L"is open."};
+
+constexpr UINT wrapped = DT_WORDBREAK | DT_NOPREFIX;
+
+HFONT systemFont(Metrics metrics, int size, LONG weight, bool italic) {
+  NONCLIENTMETRICSW system = {};
+  system.cbSize = sizeof system;
+  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof system, &system, 0);
+  LOGFONTW font = system.lfMessageFont;
+  font.lfHeight = -metrics.px(size);
+  font.lfWeight = weight;
+  font.lfItalic = italic ? TRUE : FALSE;
+  font.lfQuality = ANTIALIASED_QUALITY;
+  return CreateFontIndirectW(&font);
+}
+
+void fill(HDC dc, const RECT& area, COLORREF color) {
+  const GdiObject brush(CreateSolidBrush(color));
+  FillRect(dc, &area, brush.get());
+}
+
+void write(HDC dc, RECT area, HFONT font, COLORREF color, const wchar_t* text, UINT format) {
+  const Selected chosen(dc, font);
+  SetTextColor(dc, color);
+  SetBkMode(dc, TRANSPARENT);
+  DrawTextW(dc, text, -1, &area, format);
+}
+
+}  // namespace
+
+PagePainter::PagePainter(Metrics metrics)
+    : metrics(metrics),
+      headingFont(systemFont(metrics, 26, FW_BOLD, false)),
+      bodyFont(systemFont(metrics, 13, FW_NORMAL, false)),
+      captionFont(systemFont(metrics, 12, FW_NORMAL, true)) {}
+
+int PagePainter::textHeight(HDC dc, HFONT font, const wchar_t* text, int width) const {
+  const Selected chosen(dc, font);
+  RECT area = {0, 0, width, 0};
+  DrawTextW(dc, text, -1, &area, wrapped | DT_CALCRECT);
+  return heightOf(area);
+}
+
+PageLayout PagePainter::layOut(HDC dc, const RECT& desk) const {
+  const int gap = metrics.px(18);
+  const int sheetWidth = std::clamp(widthOf(desk) - 2 * metrics.px(40), metrics.px(240), metrics.px(760));
+  const int left = desk.left + (widthOf(desk) - sheetWidth) / 2;
+  PageLayout layout;
+  layout.sheet = {left, desk.top + metrics.px(24), left + sheetWidth,
+                  std::max<LONG>(desk.bottom - metrics.px(24), desk.top + metrics.px(120))};
+  const RECT column = {left + metrics.px(56), layout.sheet.top + metrics.px(40), layout.sheet.right - metrics.px(56),
+                       layout.sheet.bottom - metrics.px(32)};
+  const auto below = [&](LONG top, int height) { return RECT{column.left, top, column.right, top + height}; };
+
+  layout.heading = below(column.top, textHeight(dc, headingFont.get(), headingText, widthOf(column)));
+  layout.introduction =
+      below(layout.heading.bottom + metrics.px(10), textHeight(dc, bodyFont.get(), introductionText, widthOf(column)));
+  const LONG objectTop = layout.introduction.bottom + gap;
+  const int room = static_cast<int>(column.bottom - objectTop) * 3 / 4;
+  const int height = std::max(metrics.px(60), std::min(room, widthOf(column) * 3 / 4));
+  const int width = std::min(widthOf(column), height * 4 / 3);
+  layout.object = {left + (sheetWidth - width) / 2, objectTop, left + (sheetWidth - width) / 2 + width,
+                   objectTop + height};
+  layout.caption = below(layout.object.bottom + metrics.px(10), metrics.px(18));
+  layout.body = {column.left, layout.caption.bottom + gap, column.right, column.bottom};
+  return layout;
+}
+
+void PagePainter::paintSheet(HDC dc, const RECT& desk, const RECT& sheet) const {
+  fill(dc, desk, deskColor);
+  RECT shadow = sheet;
+  OffsetRect(&shadow, metrics.px(4), metrics.px(4));
+  fill(dc, shadow, shadowColor);
+  fill(dc, inflated(sheet, 1), edgeColor);
+  fill(dc, sheet, paperColor);
+}
+
+// A line that would stand half beyond the end of the sheet is left out.
+void PagePainter::paintBody(HDC dc, const RECT& area) const {
+  LONG top = area.top;
+  for (const wchar_t* text : bodyTexts) {
+    RECT place = {area.left, top, area.right, area.bottom};
+    if (top >= area.bottom) return;
+    write(dc, place, bodyFont.get(), textColor, text, wrapped | DT_EDITCONTROL);
+    top += textHeight(dc, bodyFont.get(), text, widthOf(area)) + metrics.px(10);
+  }
+}
+
+void PagePainter::paint(HDC dc, const RECT& desk, const PageLayout& layout, const std::wstring& caption) const {
+  paintSheet(dc, desk, layout.sheet);
+  write(dc, layout.heading, headingFont.get(), headingColor, headingText, wrapped);
+  write(dc, layout.introduction, bodyFont.get(), textColor, introductionText, wrapped);
+  write(dc, layout.caption, captionFont.get(), textColor, caption.c_str(), DT_CENTER | DT_SINGLELINE | DT_NOPREFIX);
+  paintBody(dc, layout.body);
+}
+
+}  // namespace nerida::host
