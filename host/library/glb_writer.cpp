@@ -20,6 +20,11 @@ double onGrid(double value) {
   return std::nearbyint(value * grid) / grid + 0.0;  // never -0
 }
 
+double turnOnGrid(double value) {
+  constexpr double grid = 1 << 20;
+  return std::nearbyint(value * grid) / grid + 0.0;
+}
+
 template <typename T>
 void put(std::string& bytes, T value) {
   const auto raw = std::bit_cast<std::array<char, sizeof(T)>>(value);
@@ -162,11 +167,12 @@ class Writer {
     const Vec& place = motion.places.front();
     const Quaternion& turn = motion.turns.front();
     document["nodes"][node]["translation"] = {onGrid(place.x), onGrid(place.y), onGrid(place.z)};
-    document["nodes"][node]["rotation"] = {turn.x, turn.y, turn.z, turn.w};
+    document["nodes"][node]["rotation"] = {turnOnGrid(turn.x), turnOnGrid(turn.y), turnOnGrid(turn.z),
+                                           turnOnGrid(turn.w)};
     addChannel(node, "translation", addVectors(motion.places, otherData));
     const std::size_t start = binary.size();
     for (const Quaternion& q : motion.turns) {
-      for (const double value : {q.x, q.y, q.z, q.w}) put(binary, static_cast<float>(value));
+      for (const double value : {q.x, q.y, q.z, q.w}) put(binary, static_cast<float>(turnOnGrid(value)));
     }
     addChannel(node, "rotation", addAccessor(start, otherData, floating, motion.turns.size(), "VEC4"));
   }

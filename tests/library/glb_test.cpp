@@ -38,7 +38,8 @@ TEST(Glb, ContainerIsWellFormed) {
 }
 
 TEST(Glb, ViewsStartAtMultiplesOfFour) {
-  for (const json& view : documentOf(writeGlb(wheelOnAxle()))["bufferViews"]) {
+  const json document = documentOf(writeGlb(wheelOnAxle()));
+  for (const json& view : document["bufferViews"]) {
     EXPECT_EQ(view["byteOffset"].get<int>() % 4, 0);
   }
 }
