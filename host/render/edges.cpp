@@ -38,14 +38,20 @@ struct Side {
   std::uint32_t face;
 };
 
+/// As it happens at the poles of a globe: two corners at one place, nothing to see.
+bool isSliver(const std::uint32_t (&corners)[3], const std::vector<std::uint32_t>& places) {
+  const std::uint32_t a = places[corners[0]], b = places[corners[1]], c = places[corners[2]];
+  return a == b || b == c || c == a;
+}
+
 std::vector<Side> sidesOf(const Mesh& mesh, const std::vector<std::uint32_t>& places) {
   std::vector<Side> sides;
   sides.reserve(mesh.triangles.size() * 3);
   for (std::uint32_t face = 0; face < mesh.triangles.size(); ++face) {
     const auto& corners = mesh.triangles[face].corners;
+    if (isSliver(corners, places)) continue;
     for (int i = 0; i < 3; ++i) {
       std::uint32_t low = corners[i], high = corners[(i + 1) % 3];
-      if (places[low] == places[high]) continue;
       if (places[low] > places[high]) std::swap(low, high);
       sides.push_back({places[low], places[high], low, high, face});
     }
