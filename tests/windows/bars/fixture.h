@@ -1,0 +1,84 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <oleacc.h>
+
+#include <string>
+#include <vector>
+
+#include "platform/error.h"
+#include "platform/win32/module.h"
+#include "platform/win32/text.h"
+#include "platform/win32/window.h"
+#include "tests/windows/bars/toolbar_sample.h"
+#include "toolbar/toolbar_layout.h"
+
+namespace nerida {
+
+template <class Action>
+int errorOf(Action action) {
+  try {
+    action();
+  } catch (const Error& failure) {
+    return failure.number;
+  }
+  return 0;
+}
+
+inline void pump() {
+  MSG message = {};
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+}
+
+// The toolbar's form, unfolded and on the screen, with the swatches out of the way.
+class ToolbarOnScreen : public testing::Test {
+ protected:
+  void SetUp() override {
+    form = makeToolbarSample(factory, folder);
+    for (const char* name : {"picSurface", "picLine", "picLineThick", "picAni"}) {
+      form->pictureBox(name).setVisible(false);
+    }
+    form->setHeight(unfoldedHeight);
+    for (const ControlLayout& row : toolbarLayout.controls) {
+      if (row.kind != ControlKind::buttonBar) continue;
+      form->buttonBar(row.name, row.index).buttonPress = [this](const std::string& key) { pressed.push_back(key); };
+    }
+    form->showTopmostAt({40, 60});
+    pump();
+  }
+
+  HWND window() const { return reinterpret_cast<HWND>(form->handle()); }
+
+  // The window of a control, found by its place.
+  HWND windowOf(const Control& control) const {
+    const double pixel = screenDpi() / 1440.0;
+    const Bounds at = control.bounds();
+    const POINT middle = {static_cast<LONG>((at.left.value + at.width.value / 2) * pixel),
+                          static_cast<LONG>((at.top.value + at.height.value / 2) * pixel)};
+    return ChildWindowFromPointEx(window(), middle, CWP_SKIPINVISIBLE);
+  }
+
+  HWND bar(const char* name, int index = 0) { return windowOf(form->buttonBar(name, index)); }
+
+  // Dots per inch of the screen.
+  static double screenDpi() {
+    const HDC screen = GetDC(nullptr);
+    const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
+    ReleaseDC(nullptr, screen);
+    return dpi;
+  }
+
+  std::string folder;  // where there is no resource file
+  SystemWindowFactory factory;
+  std::shared_ptr<Window> form;
+  std::vector<std::string> pressed;
+};
+
+using Keys = std::vector<std::string>;
+
+}  // namespace nerida

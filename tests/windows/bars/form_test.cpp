@@ -1,0 +1,256 @@
+// Forms as windows: lists, hooks, modal loops, menus, and what is left when they are gone.
+#include <algorithm>
+
+#include "platform/win32/window_class.h"
+#include "tests/windows/bars/fixture.h"
+
+namespace nerida {
+namespace {
+
+class Forms : public ToolbarOnScreen {};
+
+TEST_F(Forms, RaiseClickOfAListWhenItsSelectionChanges) {
+  ComboBox& styles = form->comboBox("cmbStyles");
+  std::vector<int> clicks;
+  styles.click = [&] { clicks.push_back(styles.selected()); };
+  styles.addItem("Basic Draw");
+  styles.addItem("Tusche \xC3\xBC");
+  styles.select(1);
+  styles.select(1);
+  styles.select(-1);
+  styles.select(0);
+  styles.clear();
+  EXPECT_EQ(clicks, (std::vector<int>{1, -1, 0}));
+  EXPECT_EQ(styles.selected(), -1);
+  EXPECT_EQ(styles.count(), 0);
+  EXPECT_EQ(errorOf([&] { styles.select(0); }), error::subscriptOutOfRange);
+}
+
+TEST_F(Forms, RaiseClickOfAListForTheUser) {
+  ComboBox& styles = form->comboBox("cmbStyles");
+  for (const char* style : {"a", "b", "\xC3\xA9"}) styles.addItem(style);
+  styles.select(0);
+  std::vector<std::string> clicks;
+  styles.click = [&] { clicks.push_back(styles.item(styles.selected())); };
+  const HWND list = windowOf(styles);
+  for (const WPARAM key : {VK_DOWN, VK_DOWN, VK_DOWN, VK_UP}) SendMessageW(list, WM_KEYDOWN, key, 1);
+  EXPECT_EQ(clicks, (std::vector<std::string>{"b", "\xC3\xA9", "b"}));
+  EXPECT_EQ(errorOf([&] { styles.item(3); }), error::subscriptOutOfRange);
+  EXPECT_EQ(errorOf([&] { styles.item(-1); }), error::subscriptOutOfRange);
+}
+
+TEST_F(Forms, KeepTheTextOfAField) {
+  TextBox& amount = form->textBox("txtNudgeAmt");
+  EXPECT_EQ(amount.text(), "100");
+  amount.setText("z\xC3\xBC");
+  EXPECT_EQ(amount.text(), "z\xC3\xBC");
+}
+
+TEST_F(Forms, FoldWithoutMoving) {
+  const Point before = form->position();
+  const int width = form->sizeInPixels().width;
+  form->setHeight(foldedHeight);
+  EXPECT_EQ(form->position(), before);
+  EXPECT_EQ(form->sizeInPixels(), (Size{width, static_cast<int>(foldedHeight.value * screenDpi() / 1440 + 0.49)}));
+}
+
+TEST_F(Forms, HookOnceAndUnhookOnce) {
+  const auto procedure = [&] { return GetWindowLongPtrW(window(), GWLP_WNDPROC); };
+  const LONG_PTR own = procedure();
+  int first = 0;
+  int second = 0;
+  form->hook([&](const Message& message) {
+    ++first;
+    return form->callPrevious(message);
+  });
+  EXPECT_NE(procedure(), own);
+  form->hook([&](const Message& message) {
+    ++second;
+    return form->callPrevious(message);
+  });
+  SendMessageW(window(), WM_NULL, 0, 0);
+  EXPECT_EQ(first, 1);
+  EXPECT_EQ(second, 0);
+  form->unhook();
+  form->unhook();
+  EXPECT_EQ(procedure(), own);
+  EXPECT_FALSE(form->isHooked());
+  SendMessageW(window(), WM_NULL, 0, 0);
+  EXPECT_EQ(first, 1);
+}
+
+TEST_F(Forms, LetAHookTakeItselfOffAndStillPassOn) {
+  bool closed = false;
+  form->closeRequested = [&] { closed = true; };
+  form->hook([&](const Message& message) -> std::intptr_t {
+    form->unhook();
+    return form->callPrevious(message);
+  });
+  SendMessageW(window(), WM_CLOSE, 0, 0);
+  EXPECT_TRUE(closed);
+  EXPECT_FALSE(form->isHooked());
+}
+
+TEST_F(Forms, KnowWhileTheApplicationLosesTheFocus) {
+  std::vector<bool> seen;
+  form->hook([&](const Message& message) -> std::intptr_t {
+    seen.push_back(applicationIsLosingFocus());
+    return message.number == WM_NULL ? 7 : 0;
+  });
+  EXPECT_EQ(SendMessageW(window(), WM_NULL, 0, 0), 7);
+  SendMessageW(window(), WM_ACTIVATEAPP, TRUE, 0);
+  SendMessageW(window(), WM_ACTIVATEAPP, FALSE, 0);
+  EXPECT_EQ(seen, (std::vector<bool>{false, false, true}));
+  EXPECT_FALSE(applicationIsLosingFocus());
+}
+
+TEST_F(Forms, KeepAnExceptionOfAHookInside) {
+  form->hook([](const Message&) -> std::intptr_t { throw Error(error::overflow); });
+  EXPECT_EQ(SendMessageW(window(), WM_NULL, 0, 0), 0);
+  form->unhook();
+}
+
+TEST_F(Forms, StayWhenTheCloseBoxIsPressed) {
+  int requests = 0;
+  form->closeRequested = [&] { ++requests; };
+  SendMessageW(window(), WM_SYSCOMMAND, SC_CLOSE, 0);
+  EXPECT_EQ(requests, 1);
+  EXPECT_TRUE(form->isVisible());
+}
+
+TEST_F(Forms, AreClickedAlsoThroughPicturesAndNowhereElse) {
+  int clicks = 0;
+  form->clicked = [&] { ++clicks; };
+  const auto click = [](HWND where) {
+    SendMessageW(where, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+    SendMessageW(where, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+  };
+  click(window());
+  form->pictureBox("picAni").setVisible(true);
+  click(windowOf(form->pictureBox("picAni")));
+  EXPECT_EQ(clicks, 2);
+  click(bar("barWorld", 2));
+  EXPECT_EQ(clicks, 2);
+}
+
+void CALLBACK onTimer(HWND window, UINT, UINT_PTR timer, DWORD) {
+  KillTimer(window, timer);
+  (*reinterpret_cast<std::function<void()>*>(timer))();
+}
+
+void later(HWND window, std::function<void()>& action) {
+  SetTimer(window, reinterpret_cast<UINT_PTR>(&action), 50, onTimer);
+}
+
+TEST_F(Forms, ReturnFromModalWhenHidden) {
+  const std::shared_ptr<Window> asked = factory.create(toolbarLayout);
+  bool toolbarTookInput = true;
+  std::function<void()> action = [&] {
+    toolbarTookInput = IsWindowEnabled(window()) != FALSE;
+    asked->hide();
+  };
+  later(reinterpret_cast<HWND>(asked->handle()), action);
+  asked->showModal();
+  EXPECT_FALSE(toolbarTookInput);
+  EXPECT_TRUE(IsWindowEnabled(window()));
+  EXPECT_FALSE(asked->isVisible());
+}
+
+TEST_F(Forms, ReturnFromModalWhenLetGo) {
+  std::shared_ptr<Window> asked = factory.create(toolbarLayout);
+  const HWND gone = reinterpret_cast<HWND>(asked->handle());
+  std::function<void()> action = [&] { asked.reset(); };
+  later(gone, action);
+  asked->showModal();
+  EXPECT_FALSE(IsWindow(gone));
+  EXPECT_TRUE(IsWindowEnabled(window()));
+}
+
+TEST_F(Forms, PassTheEndOfTheProgramOn) {
+  const std::shared_ptr<Window> asked = factory.create(toolbarLayout);
+  std::function<void()> action = [] { PostQuitMessage(3); };
+  later(reinterpret_cast<HWND>(asked->handle()), action);
+  asked->showModal();
+  MSG message = {};
+  ASSERT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+  EXPECT_EQ(message.wParam, 3U);
+}
+
+TEST_F(Forms, CloseAMenuWithoutAChoiceWhenTheyGo) {
+  static constexpr const char* captions[] = {"Reset &Model", "-", "to &Front", "to &Back "};
+  std::function<void()> hide = [&] { form->hide(); };
+  later(window(), hide);
+  EXPECT_EQ(form->popUpMenuRightAligned(captions, {600}, {600}), -1);
+  form->showTopmost();
+  std::function<void()> letGo = [&] { form.reset(); };
+  later(window(), letGo);
+  EXPECT_EQ(form->popUpMenuRightAligned(captions, {600}, {600}), -1);
+}
+
+TEST_F(Forms, ReturnTheChoiceOfAMenu) {
+  static constexpr const char* captions[] = {"Reset &Model", "-", "to &Front", "to &Back "};
+  SetForegroundWindow(window());
+  std::function<void()> choose = [&] {
+    for (const WPARAM key : {VK_DOWN, VK_DOWN, VK_RETURN}) PostMessageW(window(), WM_KEYDOWN, key, 1);
+  };
+  later(window(), choose);
+  EXPECT_EQ(form->popUpMenuRightAligned(captions, {600}, {600}), 2) << "the separator is passed over and counted";
+}
+
+TEST_F(Forms, RefuseNamesThatTheyDoNotHave) {
+  EXPECT_THROW(form->buttonBar("barMove", 4), std::logic_error);
+  EXPECT_THROW(form->label("barMove"), std::logic_error);
+}
+
+TEST_F(Forms, LeaveNothingBehind) {
+  const HINSTANCE module = moduleInstance();
+  WNDCLASSEXW description = {};
+  description.cbSize = sizeof description;
+  EXPECT_TRUE(GetClassInfoExW(module, formClass, &description));
+  form.reset();
+  for (const wchar_t* name : {formClass, buttonBarClass, pictureBoxClass}) {
+    EXPECT_FALSE(GetClassInfoExW(module, name, &description));
+  }
+  EXPECT_EQ(moduleLocks(), 0);
+}
+
+// The highest slots of the system's handle tables that fresh objects get: what is never freed pushes them up.
+int highestDrawingSlot() {
+  std::vector<HBRUSH> brushes;
+  int highest = 0;
+  for (COLORREF i = 0; i < 32; ++i) {
+    brushes.push_back(CreateSolidBrush(0x010203 + i));
+    highest = std::max<int>(highest, LOWORD(reinterpret_cast<UINT_PTR>(brushes.back())));
+  }
+  for (const HBRUSH brush : brushes) DeleteObject(brush);
+  return highest;
+}
+
+int highestWindowSlot() {
+  std::vector<HMENU> menus;
+  int highest = 0;
+  for (int i = 0; i < 32; ++i) {
+    menus.push_back(CreateMenu());
+    highest = std::max<int>(highest, LOWORD(reinterpret_cast<UINT_PTR>(menus.back())));
+  }
+  for (const HMENU menu : menus) DestroyMenu(menu);
+  return highest;
+}
+
+TEST_F(Forms, DoNotGrowTheProcess) {
+  const auto once = [&] {
+    const std::shared_ptr<Window> made = makeToolbarSample(factory, folder);
+    made->showTopmostAt({40, 60});
+    pump();
+    made->hide();
+  };
+  for (int i = 0; i < 5; ++i) once();
+  const int drawing = highestDrawingSlot();
+  const int windows = highestWindowSlot();
+  for (int i = 0; i < 60; ++i) once();
+  EXPECT_LT(highestDrawingSlot(), drawing + 30);
+  EXPECT_LT(highestWindowSlot(), windows + 30);
+}
+
+}  // namespace
+}  // namespace nerida
