@@ -28,13 +28,6 @@ void registerWindowClass(HINSTANCE program, WNDPROC procedure) {
   RegisterClassExW(&description);
 }
 
-HFONT messageFont() {
-  NONCLIENTMETRICSW system = {};
-  system.cbSize = sizeof system;
-  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof system, &system, 0);
-  return CreateFontIndirectW(&system.lfMessageFont);
-}
-
 RECT usualPlace(Metrics metrics) {
   RECT work;
   SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
@@ -44,7 +37,7 @@ RECT usualPlace(Metrics metrics) {
   return {left, top, left + width, top + height};
 }
 
-std::wstring escapedForMenuText(const std::string& name) { return wide(name.empty() ? "(no model)" : name); }
+std::wstring captionOf(const std::string& modelName) { return wide(modelName.empty() ? "No model" : modelName); }
 
 }  // namespace
 
@@ -54,7 +47,7 @@ DocumentWindow::DocumentWindow(HINSTANCE program, Metrics metrics)
       object(metrics),
       editing(object, metrics),
       painter(metrics),
-      statusFont(messageFont()) {}
+      status(metrics) {}
 
 void DocumentWindow::create(const Options& options) {
   if (options.log) object.logTo(*options.log);
@@ -233,16 +226,11 @@ void DocumentWindow::close() {
 RECT DocumentWindow::desk() const {
   RECT area;
   GetClientRect(window, &area);
-  area.bottom = std::max(area.top, area.bottom - metrics.px(24));
+  area.bottom = statusStrip().top;
   return area;
 }
 
-RECT DocumentWindow::statusStrip() const {
-  RECT area;
-  GetClientRect(window, &area);
-  area.top = std::max(area.top, area.bottom - metrics.px(24));
-  return area;
-}
+RECT DocumentWindow::statusStrip() const { return StatusStrip::areaIn(window, metrics); }
 
 void DocumentWindow::resized(WPARAM how) {
   object.animationChanged();
@@ -261,26 +249,12 @@ void DocumentWindow::paint() {
   ExcludeClipRect(dc, done.left, done.top, done.right, done.bottom);
   RECT rest;
   if (GetClipBox(dc, &rest) != NULLREGION) {
-    paintStatus(dc, statusStrip());
-    painter.paint(dc, desk(), layout, escapedForMenuText(object.model().name()));
+    const wchar_t* hint = editing.active() ? L"Editing \u2013 click beside the object to leave it"
+                                           : L"Double-click the object to edit it";
+    status.paint(dc, statusStrip(), object.lastCall(), hint);
+    painter.paint(dc, desk(), layout, captionOf(object.model().name()));
   }
   EndPaint(window, &scope);
-}
-
-void DocumentWindow::paintStatus(HDC dc, const RECT& strip) const {
-  FillRect(dc, &strip, GetSysColorBrush(COLOR_BTNFACE));
-  RECT edge = strip;
-  DrawEdge(dc, &edge, BDR_RAISEDINNER, BF_TOP);
-  RECT text = strip;
-  InflateRect(&text, -metrics.px(10), 0);
-  const Selected chosen(dc, statusFont.get());
-  SetBkMode(dc, TRANSPARENT);
-  SetTextColor(dc, GetSysColor(COLOR_BTNTEXT));
-  constexpr UINT line = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS;
-  const wchar_t* hint =
-      editing.active() ? L"Editing \u2013 click beside the object to leave it" : L"Double-click the object to edit it";
-  DrawTextW(dc, hint, -1, &text, line | DT_RIGHT);
-  DrawTextW(dc, object.lastCall().c_str(), -1, &text, line);
 }
 
 }  // namespace nerida::host

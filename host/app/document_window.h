@@ -4,6 +4,7 @@
 #include "host/app/in_place_editing.h"
 #include "host/app/options.h"
 #include "host/app/page_painter.h"
+#include "host/app/status_strip.h"
 
 namespace nerida::host {
 
@@ -31,7 +32,6 @@ class DocumentWindow {
   void doubleClick(POINT point);
   void resized(WPARAM how);
   void paint();
-  void paintStatus(HDC dc, const RECT& strip) const;
   void chooseModel();
   void showTitle();
   void about();
@@ -52,7 +52,7 @@ class DocumentWindow {
   InPlaceEditing editing;
   PagePainter painter;
   PageLayout layout;
-  GdiObject<HFONT> statusFont;
+  StatusStrip status;
 };
 
 }  // namespace nerida::host

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/app/call_words.h"
+#include "host/app/status_strip.h"
 
 namespace nerida::host {
 namespace {
@@ -49,6 +50,13 @@ void paintHandles(HDC dc, const RECT& frame, int size) {
   }
 }
 
+void paintInvitation(HDC dc, RECT area) {
+  const Selected font(dc, GetStockObject(DEFAULT_GUI_FONT));
+  SetBkMode(dc, TRANSPARENT);
+  SetTextColor(dc, restingFrame);
+  DrawTextW(dc, L"Open a model with File, Open model", -1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+}
+
 }  // namespace
 
 EmbeddedObject::EmbeddedObject(Metrics metrics)
@@ -88,6 +96,7 @@ void EmbeddedObject::paintActiveFrame(HDC dc) const {
 void EmbeddedObject::paint(HDC dc, bool active) {
   render();
   blit(dc, bounds, picture);
+  if (!object.scene.hasModel()) paintInvitation(dc, bounds);
   if (active) {
     paintActiveFrame(dc);
     return;
@@ -133,10 +142,8 @@ void EmbeddedObject::called(const CallRecord& record) {
   const std::string text = wordsFor(record);
   if (text.empty() || window == nullptr) return;
   words = wide(text);
-  RECT client;
-  GetClientRect(window, &client);
-  client.top = client.bottom - metrics.px(24);
-  InvalidateRect(window, &client, FALSE);
+  const RECT strip = StatusStrip::areaIn(window, metrics);
+  InvalidateRect(window, &strip, FALSE);
 }
 
 }  // namespace nerida::host

@@ -26,7 +26,7 @@ RECT workArea(HWND window) {
 // Zero would leave the choice to the toolbar, and its coordinates have 16 bits.
 POINT usable(POINT corner) { return {std::clamp<LONG>(corner.x, 1, 32'767), std::clamp<LONG>(corner.y, 1, 32'767)}; }
 
-// Below the object if there is room, else as low as the screen allows.
+// Moved no farther than it takes to have all of it on the screen.
 POINT keptOnScreen(POINT corner, const RECT& toolbar, const RECT& screen) {
   const LONG lowest = screen.bottom - heightOf(toolbar), rightmost = screen.right - widthOf(toolbar);
   return usable(
@@ -35,11 +35,12 @@ POINT keptOnScreen(POINT corner, const RECT& toolbar, const RECT& screen) {
 
 }  // namespace
 
+// Below the caption of the object.
 POINT InPlaceEditing::corner(HWND document) const {
   const RECT frame = object.areaWithFrame();
-  POINT corner = {frame.left, frame.bottom + metrics.px(10)};
-  ClientToScreen(document, &corner);
-  return usable(corner);
+  POINT place = {frame.left, frame.bottom + metrics.px(26)};
+  ClientToScreen(document, &place);
+  return usable(place);
 }
 
 void InPlaceEditing::showToolbar(HWND document) {

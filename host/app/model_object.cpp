@@ -1,5 +1,6 @@
 #include "host/app/model_object.h"
 
+#include "host/app/model_title.h"
 #include "host/render/style.h"
 
 namespace nerida::host {
@@ -23,7 +24,7 @@ void ModelObject::load(const std::filesystem::path& file) {
 }
 
 void ModelObject::open(const std::filesystem::path& file) {
-  scene.setModelName({});
+  scene.setModelName(findModelTitle(file));
   load(file);
 }
 

@@ -33,7 +33,7 @@ class ModelObject {
   /// Under the name that was set, or the file's when there is none. Throws ModelError; the old model then keeps its
   /// name as well.
   void load(const std::filesystem::path& file);
-  /// Under the file's own name. Throws ModelError.
+  /// Under the name that its library gives it, else the file's. Throws ModelError.
   void open(const std::filesystem::path& file);
 
   /// Which parts of the picture the current style lets the user change: 1 the surface colour, 2 the line colour,

@@ -28,15 +28,13 @@ constexpr const wchar_t* bodyTexts[] = {
 
 constexpr UINT wrapped = DT_WORDBREAK | DT_NOPREFIX;
 
-HFONT systemFont(Metrics metrics, int size, LONG weight, bool italic) {
-  NONCLIENTMETRICSW system = {};
-  system.cbSize = sizeof system;
-  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof system, &system, 0);
-  LOGFONTW font = system.lfMessageFont;
+HFONT pageFont(Metrics metrics, int size, LONG weight, bool italic) {
+  LOGFONTW font = {};
   font.lfHeight = -metrics.px(size);
   font.lfWeight = weight;
   font.lfItalic = italic ? TRUE : FALSE;
   font.lfQuality = ANTIALIASED_QUALITY;
+  lstrcpyW(font.lfFaceName, L"Tahoma");
   return CreateFontIndirectW(&font);
 }
 
@@ -56,9 +54,9 @@ void write(HDC dc, RECT area, HFONT font, COLORREF color, const wchar_t* text, U
 
 PagePainter::PagePainter(Metrics metrics)
     : metrics(metrics),
-      headingFont(systemFont(metrics, 26, FW_BOLD, false)),
-      bodyFont(systemFont(metrics, 13, FW_NORMAL, false)),
-      captionFont(systemFont(metrics, 12, FW_NORMAL, true)) {}
+      headingFont(pageFont(metrics, 26, FW_BOLD, false)),
+      bodyFont(pageFont(metrics, 13, FW_NORMAL, false)),
+      captionFont(pageFont(metrics, 12, FW_NORMAL, true)) {}
 
 int PagePainter::textHeight(HDC dc, HFONT font, const wchar_t* text, int width) const {
   const Selected chosen(dc, font);
@@ -101,14 +99,14 @@ void PagePainter::paintSheet(HDC dc, const RECT& desk, const RECT& sheet) const 
   fill(dc, sheet, paperColor);
 }
 
-// A line that would stand half beyond the end of the sheet is left out.
+// A paragraph that would go beyond the end of the sheet is left for the next one.
 void PagePainter::paintBody(HDC dc, const RECT& area) const {
   LONG top = area.top;
   for (const wchar_t* text : bodyTexts) {
-    RECT place = {area.left, top, area.right, area.bottom};
-    if (top >= area.bottom) return;
-    write(dc, place, bodyFont.get(), textColor, text, wrapped | DT_EDITCONTROL);
-    top += textHeight(dc, bodyFont.get(), text, widthOf(area)) + metrics.px(10);
+    const LONG bottom = top + textHeight(dc, bodyFont.get(), text, widthOf(area));
+    if (bottom > area.bottom) return;
+    write(dc, {area.left, top, area.right, bottom}, bodyFont.get(), textColor, text, wrapped);
+    top = bottom + metrics.px(10);
   }
 }
 
