@@ -73,7 +73,7 @@ Mesh ball(float radius, Vec3 color) {
 
 Mesh ring(float radius, float thickness, Vec3 color) {
   Mesh mesh = gridSurface(32, 20, color, [&](float v, float u) {
-    const float along = -v * fullTurn, around = u * fullTurn;
+    const float along = v * fullTurn, around = u * fullTurn;
     const Vec3 outwards{std::cos(along), 0, std::sin(along)};
     const Vec3 n = outwards * std::cos(around) + Vec3{0, -std::sin(around), 0};
     return Corner{outwards * radius + n * thickness, n};
