@@ -5,7 +5,7 @@ namespace {
 
 constexpr float eyeDistance = 5.0F;
 // A sphere of radius 1 looks this large from there: the margin belongs to it.
-constexpr float fit = 0.97F;
+constexpr float fit = 0.95F;
 constexpr float referenceSide = 480.0F;
 
 void growBox(PixelBox& box, const ScreenVertex& v) {

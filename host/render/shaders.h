@@ -113,7 +113,7 @@ struct PencilShader {
   [[nodiscard]] Vec3 operator()(const SurfacePoint& p) const {
     const float light =
         (0.30F * skyLight(p.normal) + 0.85F * lamp.reach(p.normal)) * (0.45F + 0.55F * brightnessOf(p.color));
-    const float dark = std::clamp(1 - light, 0.0F, 1.0F);
+    const float dark = std::clamp(1 - 1.3F * light, 0.0F, 1.0F);
     const float tooth = 0.55F + 0.45F * grain(static_cast<int>(p.x), static_cast<int>(p.y));
     float lines = hatch(p.x + p.y, p.x - p.y, dark * 1.25F - 0.12F);
     lines = std::max(lines, hatch(p.x - p.y * 0.55F, p.y + p.x * 0.55F, dark * 1.5F - 0.72F));
@@ -125,7 +125,7 @@ struct PencilShader {
   /// Strokes across `across` that run along `along`: the darker, the broader.
   [[nodiscard]] float hatch(float across, float along, float dark) const {
     if (dark <= 0) return 0;
-    const float period = 5.2F * unit;
+    const float period = std::max(4.5F, 5.2F * unit);
     const float shaky = across + 1.6F * unit * softGrain(along * 0.03F / unit, across * 0.05F / unit);
     const float phase = shaky / period - std::floor(shaky / period);
     const float fromMiddle = std::fabs(phase - 0.5F) * 2;
