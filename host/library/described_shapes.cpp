@@ -47,7 +47,7 @@ Mesh torusShape(Fields& fields) {
 }
 
 std::vector<Vec> curveOf(Fields& fields, const char* key, bool closed, bool smoothByDefault) {
-  const std::vector<Vec> points = fields.points(key);
+  std::vector<Vec> points = fields.points(key);
   if (!fields.flag("smooth", smoothByDefault)) return points;
   return smoothCurve(points, std::clamp(fields.integer("steps", 4), 1, 64), closed);
 }

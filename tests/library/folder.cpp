@@ -20,7 +20,7 @@ TemporaryFolder::~TemporaryFolder() {
 }
 
 std::filesystem::path TemporaryFolder::write(const std::string& name, const std::string& bytes) const {
-  const std::filesystem::path file = place / name;
+  std::filesystem::path file = place / name;
   std::filesystem::create_directories(file.parent_path());
   std::ofstream(file, std::ios::binary) << bytes;
   return file;
