@@ -86,6 +86,33 @@ void checkExtensions(const json& description) {
   }
 }
 
+/// A whole number of the description; what is not there counts as `otherwise`.
+std::uint64_t wholeOf(const json& object, const char* name, std::uint64_t otherwise) {
+  const auto found = object.find(name);
+  if (found == object.end()) return otherwise;
+  if (!found->is_number_unsigned()) throw ModelError("The model file's description is damaged.");
+  return found->get<std::uint64_t>();
+}
+
+/// The library takes an image's place in the data on trust.
+void checkViews(const json& description) {
+  const auto views = description.find("bufferViews");
+  if (views == description.end()) return;
+  const json none = json::array();
+  const json& buffers = description.contains("buffers") ? description["buffers"] : none;
+  for (const json& view : *views) {
+    if (!view.is_object()) throw ModelError("The model file's description is damaged.");
+    const std::uint64_t buffer = wholeOf(view, "buffer", buffers.size());
+    if (!buffers.is_array() || buffer >= buffers.size() || !buffers[buffer].is_object()) {
+      throw ModelError("The model file refers to something that it does not contain.");
+    }
+    const std::uint64_t size = wholeOf(buffers[buffer], "byteLength", 0), offset = wholeOf(view, "byteOffset", 0);
+    if (offset > size || wholeOf(view, "byteLength", 0) > size - offset) {
+      throw ModelError("The model file refers to data beyond its end.");
+    }
+  }
+}
+
 }  // namespace
 
 void checkGlb(std::span<const std::uint8_t> bytes) {
@@ -93,6 +120,7 @@ void checkGlb(std::span<const std::uint8_t> bytes) {
   const json description = parseDescription(checkChunks(bytes.first(wordAt(bytes, 8))));
   checkCounts(description);
   checkExtensions(description);
+  checkViews(description);
 }
 
 }  // namespace nerida

@@ -189,8 +189,28 @@ TEST(DamagedFiles, aBrokenTextureIsLeftOut) {
   EXPECT_EQ(model.meshAt(0).materials.back().texture, nullptr);
 }
 
+TEST(DamagedFiles, anImageBeyondTheDataIsRefused) {
+  GlbBuilder file = triangleFile();
+  const int view = file.addView({0x89, 'P', 'N', 'G'});
+  file.description["images"] = {{{"bufferView", view}, {"mimeType", "image/png"}}};
+  file.description["bufferViews"][static_cast<std::size_t>(view)]["byteLength"] = 1'000'000;
+  EXPECT_EQ(refusal(file.bytes()), "The model file refers to data beyond its end.");
+}
+
+/// One of everything that a reader could trip over.
+GlbBuilder richFile() {
+  GlbBuilder file = movingTriangleFile();
+  const int view = file.addView({0x89, 'P', 'N', 'G', 13, 10, 26, 10, 0, 0, 0, 13, 'I', 'H', 'D', 'R'});
+  file.description["images"] = {{{"bufferView", view}, {"mimeType", "image/png"}}};
+  file.description["textures"] = {{{"source", 0}}};
+  file.description["materials"][0]["pbrMetallicRoughness"]["baseColorTexture"] = {{"index", 0}};
+  primitiveOf(file)["attributes"]["TEXCOORD_0"] = file.addFloats({0, 0, 1, 0, 0, 1}, "VEC2", 2);
+  primitiveOf(file)["attributes"]["COLOR_0"] = file.addFloats({1, 0, 0, 0, 1, 0, 0, 0, 1}, "VEC3", 3);
+  return file;
+}
+
 TEST(DamagedFiles, changedBytesNeverBreakTheReader) {
-  const Bytes whole = movingTriangleFile().bytes();
+  const Bytes whole = richFile().bytes();
   std::mt19937 random(20'260'101);
   int refused = 0;
   constexpr int rounds = 3'000;
