@@ -17,8 +17,15 @@ VARIANT number(LONG value) {
   return result;
 }
 
-HRESULT give(BSTR* target, const std::wstring& text) {
-  *target = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
+// Gives the text that a function makes; its failure does not leave the method.
+template <class Text>
+HRESULT give(BSTR* target, Text makeText) noexcept {
+  try {
+    const std::wstring text = makeText();
+    *target = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
+  } catch (...) {
+    *target = nullptr;
+  }
   return *target != nullptr ? S_OK : E_OUTOFMEMORY;
 }
 
@@ -77,7 +84,7 @@ STDMETHODIMP BarAccessible::get_accName(VARIANT child, BSTR* name) {
   int index = wholeBar;
   const HRESULT status = resolve(child, index);
   if (FAILED(status)) return status;
-  return give(name, index == wholeBar ? bar->accessibleName() : bar->buttonName(index));
+  return give(name, [&] { return index == wholeBar ? bar->accessibleName() : bar->buttonName(index); });
 }
 
 STDMETHODIMP BarAccessible::get_accValue(VARIANT, BSTR* value) { return giveNothing(value); }
@@ -135,7 +142,7 @@ STDMETHODIMP BarAccessible::get_accDefaultAction(VARIANT child, BSTR* action) {
   int index = wholeBar;
   const HRESULT status = resolve(child, index);
   if (FAILED(status)) return status;
-  return index == wholeBar ? S_FALSE : give(action, L"Press");
+  return index == wholeBar ? S_FALSE : give(action, [] { return L"Press"; });
 }
 
 STDMETHODIMP BarAccessible::accSelect(LONG flags, VARIANT child) {

@@ -83,7 +83,7 @@ void SystemButtonBar::showLayout(const std::string& name) {
   current = index;
   form().tooltips().forget(window());
   InvalidateRect(window(), nullptr, FALSE);
-  if (accessible != nullptr) NotifyWinEvent(EVENT_OBJECT_REORDER, window(), OBJID_CLIENT, CHILDID_SELF);
+  NotifyWinEvent(EVENT_OBJECT_REORDER, window(), OBJID_CLIENT, CHILDID_SELF);
 }
 
 void SystemButtonBar::setState(const std::string& key, int state, bool redrawNow) {
@@ -143,9 +143,8 @@ void SystemButtonBar::redraw(int index) {
   if (index >= 0 && index < buttonCount()) InvalidateRect(window(), &button(index).area, FALSE);
 }
 
-// Only once somebody listens: assistive tools start by asking for the bar.
 void SystemButtonBar::announce(DWORD event, int index) const {
-  if (accessible != nullptr && index != none) NotifyWinEvent(event, window(), OBJID_CLIENT, index + 1);
+  if (index != none) NotifyWinEvent(event, window(), OBJID_CLIENT, index + 1);
 }
 
 void SystemButtonBar::press(int index) {

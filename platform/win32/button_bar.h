@@ -64,6 +64,7 @@ class SystemButtonBar final : public ControlOf<ButtonBar> {
  private:
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   bool takesFocus() const override;
+  void onHidden() override;
 
   BarLayout* layoutNamed(const std::string& name);
   BarButton& lastAdded();

@@ -48,6 +48,9 @@ LRESULT SystemButtonBar::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_KEYDOWN:
       if (form().handleNavigation(message, wParam, this) || onKey(wParam, lParam)) return 0;
       break;
+    case WM_SHOWWINDOW:
+      if (wParam == FALSE) onHidden();
+      break;
     case WM_SIZE:
       for (BarLayout& each : layouts) measure(each);
       break;
@@ -97,6 +100,12 @@ void SystemButtonBar::onMouseMove(POINT point) {
 void SystemButtonBar::onMouseLeave() {
   tracking = false;
   setHot(none);
+}
+
+// Nobody tells a window that is gone from under the pointer that the pointer left it.
+void SystemButtonBar::onHidden() {
+  cancelPress();
+  onMouseLeave();
 }
 
 void SystemButtonBar::onButtonDown(POINT point) {

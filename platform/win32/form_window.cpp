@@ -146,6 +146,7 @@ void FormWindow::hide() {
   if (menuOpen) EndMenu();
   if (tips) tips->hide();
   ShowWindow(hwnd, SW_HIDE);
+  for (const auto& control : controls) control->onHidden();
 }
 
 int FormWindow::popUpMenuRightAligned(std::span<const char* const> captions, Twips x, Twips y) {

@@ -35,6 +35,8 @@ class NativeControl {
   virtual bool takesFocus() const { return false; }
   bool isReachable(POINT point) const;  // in the control's own coordinates
 
+  virtual void onHidden() {}  // with its form or alone
+
   void detach();  // the window is gone
 
  protected:

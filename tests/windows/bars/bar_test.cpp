@@ -46,6 +46,16 @@ TEST_F(Bars, PressOnceWithAnyNumberOfOtherMouseButtons) {
   EXPECT_EQ(pressed, Keys{"NudgeUp"});
 }
 
+TEST_F(Bars, ForgetThePointerWhenHidden) {
+  const HWND nudge = bar("barMove", 1);
+  send(nudge, WM_LBUTTONDOWN);
+  form->hide();
+  EXPECT_EQ(GetCapture(), nullptr);
+  form->showTopmost();
+  send(nudge, WM_LBUTTONUP);
+  EXPECT_TRUE(pressed.empty());
+}
+
 TEST_F(Bars, DoNotPressWhileDisabled) {
   form->buttonBar("barMove", 1).setEnabled(false);
   const HWND nudge = bar("barMove", 1);

@@ -1,5 +1,6 @@
 // Forms as windows: lists, hooks, modal loops, menus, and what is left when they are gone.
 #include <algorithm>
+#include <cmath>
 
 #include "platform/win32/window_class.h"
 #include "tests/windows/bars/fixture.h"
@@ -51,7 +52,8 @@ TEST_F(Forms, FoldWithoutMoving) {
   const int width = form->sizeInPixels().width;
   form->setHeight(foldedHeight);
   EXPECT_EQ(form->position(), before);
-  EXPECT_EQ(form->sizeInPixels(), (Size{width, static_cast<int>(foldedHeight.value * screenDpi() / 1440 + 0.49)}));
+  EXPECT_EQ(form->sizeInPixels(),
+            (Size{width, static_cast<int>(std::nearbyint(foldedHeight.value * screenDpi() / 1440))}));
 }
 
 TEST_F(Forms, HookOnceAndUnhookOnce) {
