@@ -102,7 +102,8 @@ void checkViews(const json& description) {
   const json& buffers = description.contains("buffers") ? description["buffers"] : none;
   for (const json& view : *views) {
     if (!view.is_object()) throw ModelError("The model file's description is damaged.");
-    const std::uint64_t buffer = wholeOf(view, "buffer", buffers.size());
+    const std::uint64_t absent = buffers.size();
+    const auto buffer = static_cast<std::size_t>(std::min(wholeOf(view, "buffer", absent), absent));
     if (!buffers.is_array() || buffer >= buffers.size() || !buffers[buffer].is_object()) {
       throw ModelError("The model file refers to something that it does not contain.");
     }
