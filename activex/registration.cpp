@@ -38,19 +38,24 @@ HKEY root(Scope scope) { return scope == Scope::machine ? HKEY_LOCAL_MACHINE : H
 
 std::wstring typeLibraryKey() { return L"TypeLib\\" + braced(LIBID_ActiveNeridaToolbar); }
 
-// Keys that both bitnesses read, which the last one to go takes away. Parents stand before their children.
-Entries sharedEntries() {
+std::wstring classKey() { return L"CLSID\\" + braced(CLSID_NeridaWindow); }
+
+// Both bitnesses read the names and the type library's common keys; the last one to go takes them away. In all tables
+// parents stand before their children.
+Entries nameEntries() {
   const std::wstring id = braced(CLSID_NeridaWindow);
   const std::wstring unversioned = programId;
   const std::wstring versioned = versionedProgramId;
+  return {
+      {unversioned, controlTitle}, {unversioned + L"\\CLSID", id}, {unversioned + L"\\CurVer", versioned},
+      {versioned, controlTitle},   {versioned + L"\\CLSID", id},
+  };
+}
+
+Entries libraryEntries() {
   const std::wstring library = typeLibraryKey();
   const std::wstring module = modulePath();
   return {
-      {unversioned, controlTitle},
-      {unversioned + L"\\CLSID", id},
-      {unversioned + L"\\CurVer", versioned},
-      {versioned, controlTitle},
-      {versioned + L"\\CLSID", id},
       {library, L""},
       {library + L"\\1.0", libraryTitle},
       {library + L"\\1.0\\0", L""},
@@ -60,7 +65,7 @@ Entries sharedEntries() {
 }
 
 Entries ownEntries() {
-  const std::wstring id = L"CLSID\\" + braced(CLSID_NeridaWindow);
+  const std::wstring id = classKey();
   const std::wstring interfaceId = L"Interface\\" + braced(IID__NeridaWindow);
   const std::wstring library = braced(LIBID_ActiveNeridaToolbar);
   return {
@@ -106,6 +111,11 @@ Contents contents(HKEY base, const std::wstring& key) {
   return result;
 }
 
+bool isEmpty(HKEY base, const std::wstring& key) {
+  const Contents left = contents(base, key);
+  return left.keys == 0 && left.values == 0;
+}
+
 // Removes a value of ours, and its key when nothing is left in it.
 void remove(HKEY base, const Entry& entry) {
   const std::wstring path = classes + entry.key;
@@ -114,12 +124,18 @@ void remove(HKEY base, const Entry& entry) {
     if (RegOpenKeyExW(base, path.c_str(), 0, KEY_SET_VALUE, key.put()) != ERROR_SUCCESS) return;
     RegDeleteValueW(key.get(), entry.name.c_str());
   }
-  const Contents left = contents(base, entry.key);
-  if (left.keys == 0 && left.values == 0) RegDeleteKeyW(base, path.c_str());
+  if (isEmpty(base, entry.key)) RegDeleteKeyW(base, path.c_str());
 }
 
 void remove(HKEY base, const Entries& entries) {
   for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) remove(base, *entry);
+}
+
+// A user has these common keys only from the first registration on.
+void removeEmptyParents(HKEY base) {
+  for (const wchar_t* parent : {L"CLSID", L"Interface", L"TypeLib"}) {
+    if (isEmpty(base, parent)) RegDeleteKeyW(base, (std::wstring(classes) + parent).c_str());
+  }
 }
 
 LONG write(HKEY base, const Entries& entries) {
@@ -129,19 +145,32 @@ LONG write(HKEY base, const Entries& entries) {
   return ERROR_SUCCESS;
 }
 
+// Classes of the other bitness stand in another view of the registry.
+bool otherBitnessHasClass(HKEY base) {
+  RegistryHandle key;
+  const REGSAM otherView = is64Bit ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
+  return RegOpenKeyExW(base, (classes + classKey()).c_str(), 0, KEY_READ | otherView, key.put()) == ERROR_SUCCESS;
+}
+
+bool otherBitnessHasLibrary(HKEY base) { return contents(base, typeLibraryKey() + L"\\1.0\\0").keys > 0; }
+
 }  // namespace
 
 HRESULT registerServer(Scope scope) {
-  LONG status = write(root(scope), sharedEntries());
-  if (status == ERROR_SUCCESS) status = write(root(scope), ownEntries());
+  LONG status = ERROR_SUCCESS;
+  for (const Entries& entries : {nameEntries(), libraryEntries(), ownEntries()}) {
+    if (status == ERROR_SUCCESS) status = write(root(scope), entries);
+  }
   if (status != ERROR_SUCCESS) unregisterServer(scope);
   return HRESULT_FROM_WIN32(static_cast<DWORD>(status));
 }
 
 HRESULT unregisterServer(Scope scope) {
-  remove(root(scope), ownEntries());
-  const bool otherBitnessRemains = contents(root(scope), typeLibraryKey() + L"\\1.0\\0").keys > 0;
-  if (!otherBitnessRemains) remove(root(scope), sharedEntries());
+  const HKEY base = root(scope);
+  remove(base, ownEntries());
+  if (!otherBitnessHasLibrary(base)) remove(base, libraryEntries());
+  if (!otherBitnessHasClass(base)) remove(base, nameEntries());
+  if (scope == Scope::user) removeEmptyParents(base);
   return S_OK;
 }
 
