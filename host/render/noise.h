@@ -41,7 +41,8 @@ inline float paperGrain(int x, int y) {
     }
     return values;
   }();
-  return sheet[static_cast<std::size_t>((y & (side - 1)) * side + (x & (side - 1)))];
+  const auto line = static_cast<std::size_t>(y & (side - 1)), column = static_cast<std::size_t>(x & (side - 1));
+  return sheet[line * side + column];
 }
 
 }  // namespace nerida

@@ -15,7 +15,7 @@ const std::array<std::uint8_t, toneSteps>& toneTable() {
     std::array<std::uint8_t, toneSteps> bytes{};
     for (std::size_t i = 0; i < bytes.size(); ++i) {
       const float light = static_cast<float>(i) / static_cast<float>(toneSteps - 1);
-      bytes[i] = static_cast<std::uint8_t>(encode(light) * 255.0F + 0.5F);
+      bytes[i] = static_cast<std::uint8_t>(std::lround(encode(light) * 255.0F));
     }
     return bytes;
   }();
