@@ -89,6 +89,13 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SHOWWINDOW:
       if (wParam == FALSE) endModal();
       break;
+    case WM_NCPAINT:
+    case WM_NCACTIVATE: {
+      if (frame != FormFrame::popup) break;
+      const LRESULT result = DefWindowProcW(hwnd, message, wParam, lParam);
+      paintOutline();
+      return result;
+    }
     case WM_SYSCOLORCHANGE:
     case WM_SETTINGCHANGE:
       RedrawWindow(hwnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
@@ -101,6 +108,17 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
   }
   return DefWindowProcW(hwnd, message, wParam, lParam);
+}
+
+// The system's thin frame is lit from the top left and nearly white there on pale desktops: over a white page a popup
+// would have only two sides.
+void FormWindow::paintOutline() {
+  const HDC dc = GetWindowDC(hwnd);
+  if (dc == nullptr) return;
+  const Size size = sizeInPixels();
+  const RECT outline = {0, 0, size.width, size.height};
+  FrameRect(dc, &outline, GetSysColorBrush(COLOR_BTNSHADOW));
+  ReleaseDC(hwnd, dc);
 }
 
 void FormWindow::onActivate(bool active) {

@@ -97,6 +97,7 @@ class FormWindow final : public Window {
 
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT runHook(UINT message, WPARAM wParam, LPARAM lParam);
+  void paintOutline();
   void onActivate(bool active);
   void rememberFocus();
   void moveFocus(const NativeControl* from, bool backward);

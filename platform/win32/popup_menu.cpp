@@ -16,7 +16,7 @@ int trackPopupMenu(HWND owner, std::span<const char* const> captions, POINT topR
     const bool separates = std::string_view(caption) == "-";
     AppendMenuW(menu.get(), separates ? MF_SEPARATOR : MF_STRING, identifier, wide(caption).c_str());
   }
-  constexpr UINT flags = TPM_RIGHTALIGN | TPM_TOPALIGN | TPM_LEFTBUTTON | TPM_RETURNCMD | TPM_NONOTIFY;
+  constexpr UINT flags = TPM_RIGHTALIGN | TPM_LEFTBUTTON | TPM_RETURNCMD | TPM_NONOTIFY;
   return TrackPopupMenu(menu.get(), flags, topRight.x, topRight.y, 0, owner, nullptr) - 1;
 }
 
