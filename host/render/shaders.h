@@ -115,19 +115,19 @@ struct PencilShader {
         (0.30F * skyLight(p.normal) + 0.85F * lamp.reach(p.normal)) * (0.45F + 0.55F * brightnessOf(p.color));
     const float dark = std::clamp(1 - 1.3F * light, 0.0F, 1.0F);
     const float tooth = 0.55F + 0.45F * grain(static_cast<int>(p.x), static_cast<int>(p.y));
-    float lines = hatch(p.x + p.y, p.x - p.y, dark * 1.25F - 0.12F);
-    lines = std::max(lines, hatch(p.x - p.y * 0.55F, p.y + p.x * 0.55F, dark * 1.5F - 0.72F));
+    const float shake = dark > 0 ? 2.0F * unit * softGrain(p.x * 0.04F / unit, p.y * 0.04F / unit) : 0;
+    float lines = hatch(p.x + p.y + shake, dark * 1.25F - 0.12F);
+    lines = std::max(lines, hatch(p.x - p.y * 0.55F - shake, dark * 1.5F - 0.72F));
     lines = std::max(lines, 0.35F * dark * dark);
     return mix(mix(paper, p.color, 0.16F), lead, std::min(lines * tooth, 0.92F));
   }
 
  private:
-  /// Strokes across `across` that run along `along`: the darker, the broader.
-  [[nodiscard]] float hatch(float across, float along, float dark) const {
+  /// Strokes side by side in the direction of `across`: the darker, the broader.
+  [[nodiscard]] float hatch(float across, float dark) const {
     if (dark <= 0) return 0;
     const float period = std::max(4.5F, 5.2F * unit);
-    const float shaky = across + 1.6F * unit * softGrain(along * 0.03F / unit, across * 0.05F / unit);
-    const float phase = shaky / period - std::floor(shaky / period);
+    const float phase = across / period - std::floor(across / period);
     const float fromMiddle = std::fabs(phase - 0.5F) * 2;
     return std::clamp((std::min(dark, 0.9F) - fromMiddle) * period * 0.35F + 0.3F, 0.0F, 0.85F);
   }
