@@ -249,8 +249,8 @@ void DocumentWindow::paint() {
   ExcludeClipRect(dc, done.left, done.top, done.right, done.bottom);
   RECT rest;
   if (GetClipBox(dc, &rest) != NULLREGION) {
-    const wchar_t* hint = editing.active() ? L"Editing \u2013 click beside the object to leave it"
-                                           : L"Double-click the object to edit it";
+    const wchar_t* hint =
+        editing.active() ? L"Editing: click beside the object to leave it" : L"Double-click the object to edit it";
     status.paint(dc, statusStrip(), object.lastCall(), hint);
     painter.paint(dc, desk(), layout, captionOf(object.model().name()));
   }

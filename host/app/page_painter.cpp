@@ -18,20 +18,19 @@ constexpr const wchar_t* introductionText =
     L"toolbar, try another style, and click beside it when it looks right. The page keeps what you chose.";
 constexpr const wchar_t* bodyTexts[] = {
     L"Drawings have explained machines for centuries. An artist picked one moment and one point of view, and left the "
-    L"rest to the reader. A model leaves nothing out; it can be seen from the front, from above, or from the side that "
-    L"the question happens to be about.",
+    L"rest to the reader. A model leaves nothing out.",
     L"Style matters as much as the view. A shaded model looks like the thing itself, an ink outline like a page of a "
-    L"handbook, and a wireframe tells how everything was put together. Lines may be thinner or bolder, surfaces may "
-    L"take the colours of the text around them.",
+    L"handbook, and a wireframe tells how it was put together.",
     L"Where something moves, let it move: models with an animation play it in place, once or for as long as the page "
-    L"is open."};
+    L"is open. The light can come from any side, and lines and surfaces take the colours of the text around them."};
 
-constexpr UINT wrapped = DT_WORDBREAK | DT_NOPREFIX;
+// Not clipped: a hinted line may come out a little wider than it was measured.
+constexpr UINT wrapped = DT_WORDBREAK | DT_NOPREFIX | DT_NOCLIP;
 
-HFONT pageFont(Metrics metrics, int size, LONG weight, bool italic) {
+HFONT pageFont(Metrics metrics, int size, bool italic) {
   LOGFONTW font = {};
   font.lfHeight = -metrics.px(size);
-  font.lfWeight = weight;
+  font.lfWeight = FW_NORMAL;
   font.lfItalic = italic ? TRUE : FALSE;
   font.lfQuality = ANTIALIASED_QUALITY;
   lstrcpyW(font.lfFaceName, L"Tahoma");
@@ -54,9 +53,9 @@ void write(HDC dc, RECT area, HFONT font, COLORREF color, const wchar_t* text, U
 
 PagePainter::PagePainter(Metrics metrics)
     : metrics(metrics),
-      headingFont(pageFont(metrics, 26, FW_BOLD, false)),
-      bodyFont(pageFont(metrics, 13, FW_NORMAL, false)),
-      captionFont(pageFont(metrics, 12, FW_NORMAL, true)) {}
+      headingFont(pageFont(metrics, 28, false)),
+      bodyFont(pageFont(metrics, 14, false)),
+      captionFont(pageFont(metrics, 13, true)) {}
 
 int PagePainter::textHeight(HDC dc, HFONT font, const wchar_t* text, int width) const {
   const Selected chosen(dc, font);
