@@ -119,7 +119,12 @@ bool SystemButtonBar::isUsable(int index) const {
 }
 
 bool SystemButtonBar::canPress(int index) const {
-  if (!isUsable(index) || !IsWindowVisible(window()) || !IsWindowEnabled(form().window())) return false;
+  return isUsable(index) && isInSight(index) && IsWindowEnabled(form().window());
+}
+
+// Neither hidden nor folded away nor under a picture.
+bool SystemButtonBar::isInSight(int index) const {
+  if (!IsWindowVisible(window())) return false;
   const RECT& area = button(index).area;
   return isReachable({(area.left + area.right) / 2, (area.top + area.bottom) / 2});
 }
@@ -128,7 +133,7 @@ DWORD SystemButtonBar::buttonStateFlags(int index) const {
   DWORD flags = 0;
   if (looksDown(index)) flags |= STATE_SYSTEM_PRESSED;
   if (index == hot) flags |= STATE_SYSTEM_HOTTRACKED;
-  if (!IsWindowVisible(window())) flags |= STATE_SYSTEM_INVISIBLE;
+  if (!isInSight(index)) flags |= STATE_SYSTEM_INVISIBLE;
   if (!canPress(index)) return flags | STATE_SYSTEM_UNAVAILABLE;
   flags |= STATE_SYSTEM_FOCUSABLE;
   if (index == focused && GetFocus() == window()) flags |= STATE_SYSTEM_FOCUSED;

@@ -69,6 +69,7 @@ class SystemButtonBar final : public ControlOf<ButtonBar> {
   BarLayout* layoutNamed(const std::string& name);
   BarButton& lastAdded();
   bool isUsable(int index) const;
+  bool isInSight(int index) const;
   void redraw(int index);
   void announce(DWORD event, int index) const;
 

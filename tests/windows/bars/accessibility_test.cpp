@@ -153,6 +153,7 @@ TEST_F(Accessibility, RefusesWhatIsFoldedAway) {
   const Accessible size(bar("barMove", 3));
   form->setHeight(foldedHeight);
   EXPECT_NE(size.press(1), S_OK);
+  EXPECT_NE(size.state(1) & STATE_SYSTEM_INVISIBLE, 0);
   form->setHeight(unfoldedHeight);
   EXPECT_EQ(size.press(1), S_OK);
   EXPECT_EQ(pressed, Keys{"Shrink"});
