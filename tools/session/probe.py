@@ -18,8 +18,7 @@ def windows_path(path):
 class Probe:
     """One helper program for the whole session; every question is a line."""
 
-    def __init__(self, arch="x86"):
-        program = ROOT / "build" / f"windows-{arch}" / "tools" / "ui_probe" / "ui-probe.exe"
+    def __init__(self, program=ROOT / "build" / "windows-x86" / "tools" / "ui_probe" / "ui-probe.exe"):
         self.process = subprocess.Popen(["wine", str(program)], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
                                         stderr=subprocess.DEVNULL, text=True, encoding="utf-8")
 
@@ -49,6 +48,16 @@ class Probe:
 
     def gone(self, title_start=None, class_name=None, timeout=10):
         wait_for(lambda: not self.windows(title_start, class_name), timeout, f"{title_start or class_name!r} to go")
+
+    def describe(self, window):
+        """A known window as it is now."""
+        return self.ask("window", window["window"])
+
+    def press(self, element):
+        """Runs the element's default action."""
+        status = self.ask("press", element["window"], element["child"])
+        if status != 0:
+            raise RuntimeError(f"pressing {element['name']!r} gave {status & 0xFFFFFFFF:#x}")
 
     def elements(self, window):
         return self.ask("elements", window["window"])

@@ -1,0 +1,141 @@
+' A client of the control with a model that tells of each use: "> member Type value ...". It carries out the commands
+' that it finds in a file and answers each with "= ...". Both go to the standard output.
+Option Explicit
+
+Const commandFile = "@COMMAND_FILE@"
+Dim raisingMember, raisingNumber
+
+Function Typed(value)
+  Typed = " " & TypeName(value) & " " & value
+End Function
+
+Sub Note(member, arguments)
+  WScript.Echo "> " & member & arguments
+  If member = raisingMember Then Err.Raise raisingNumber
+End Sub
+
+Class Model
+  Private Fields
+  Private Sub Class_Initialize
+    Set Fields = CreateObject("Scripting.Dictionary")
+    Fields("ModelName") = "Duck"
+    Fields("LookStyleName") = "Ink"
+    Fields("InterfaceFlags") = 0
+    Fields("AnimationFrameCount") = 0
+    Fields("AnimationCurrentFrame") = 0
+    Fields("AnimationState") = False
+    Fields("IsToolbarShowing") = False
+    Fields("IsCatalogShowing") = False
+  End Sub
+  Public Sub Assign(name, value)
+    Fields(name) = value
+  End Sub
+  Private Function Read(member)
+    Note member, ""
+    Read = Fields(member)
+  End Function
+  Private Sub Write(member, value)
+    Note member & " :=", Typed(value)
+    Fields(member) = value
+  End Sub
+
+  Public Property Get ModelName : ModelName = Read("ModelName") : End Property
+  Public Property Get InterfaceFlags : InterfaceFlags = Read("InterfaceFlags") : End Property
+  Public Property Get AnimationFrameCount : AnimationFrameCount = Read("AnimationFrameCount") : End Property
+  Public Property Get AnimationCurrentFrame : AnimationCurrentFrame = Read("AnimationCurrentFrame") : End Property
+  Public Property Get LookStyleName : LookStyleName = Read("LookStyleName") : End Property
+  Public Property Let LookStyle(value)
+    Note "LookStyle :=", Typed(value)
+    Fields("LookStyleName") = value
+    If value = "" Then Fields("LookStyleName") = "none"
+  End Property
+  Public Property Get AnimationState : AnimationState = Read("AnimationState") : End Property
+  Public Property Let AnimationState(value) : Write "AnimationState", value : End Property
+  Public Property Get IsToolbarShowing : IsToolbarShowing = Read("IsToolbarShowing") : End Property
+  Public Property Let IsToolbarShowing(value) : Write "IsToolbarShowing", value : End Property
+  Public Property Get IsCatalogShowing : IsCatalogShowing = Read("IsCatalogShowing") : End Property
+  Public Property Let IsCatalogShowing(value) : Write "IsCatalogShowing", value : End Property
+  Public Property Let DoneShowingModelCatalog(value) : Note "DoneShowingModelCatalog :=", Typed(value) : End Property
+
+  Public Sub GetLookStyleList(first, second, third)
+    Note "GetLookStyleList", ""
+    first = Array("Ink", "Clay", "Wire")
+  End Sub
+  Public Sub RefreshDisplay : Note "RefreshDisplay", "" : End Sub
+  Public Sub ResetHome : Note "ResetHome", "" : End Sub
+  Public Sub StopTimer : Note "StopTimer", "" : End Sub
+  Public Sub StartTimer : Note "StartTimer", "" : End Sub
+  Public Sub MoveX(amount) : Note "MoveX", Typed(amount) : End Sub
+  Public Sub MoveY(amount) : Note "MoveY", Typed(amount) : End Sub
+  Public Sub RotateX(amount) : Note "RotateX", Typed(amount) : End Sub
+  Public Sub RotateY(amount) : Note "RotateY", Typed(amount) : End Sub
+  Public Sub RotateZ(amount) : Note "RotateZ", Typed(amount) : End Sub
+  Public Sub ScaleModel(amount) : Note "ScaleModel", Typed(amount) : End Sub
+  Public Sub SetOrientation(x, y, z) : Note "SetOrientation", Typed(x) & Typed(y) & Typed(z) : End Sub
+End Class
+
+Dim files, control, duck, running, words
+Set files = CreateObject("Scripting.FileSystemObject")
+Set duck = New Model
+
+Function NextCommand
+  Dim stream
+  Do Until files.FileExists(commandFile)
+    WScript.Sleep 10
+  Loop
+  Set stream = files.OpenTextFile(commandFile, 1)
+  NextCommand = Split(stream.ReadLine, "|")
+  stream.Close
+  files.DeleteFile commandFile
+End Function
+
+Sub Answer(text)
+  WScript.Echo "= " & text
+End Sub
+
+Sub ShowAt(left, top)
+  Dim x, y, window
+  x = CInt(left)
+  y = CInt(top)
+  window = control.ToolbarShow(x, y)
+  Answer window & " " & x & " " & y
+End Sub
+
+Sub SetField(name, kind, value)
+  Select Case kind
+    Case "text" : duck.Assign name, value
+    Case "number" : duck.Assign name, CLng(value)
+    Case "truth" : duck.Assign name, CBool(value)
+  End Select
+  Answer name
+End Sub
+
+Sub SetRaising(member, number)
+  raisingMember = member
+  raisingNumber = CLng(number)
+  Answer member
+End Sub
+
+Sub CarryOut
+  Select Case words(0)
+    Case "create" : Set control = CreateObject("ActiveNeridaToolbar.NeridaWindow") : Answer "created"
+    Case "init" : Answer control.ToolbarInit(duck, CLng(words(1)))
+    Case "show" : ShowAt words(1), words(2)
+    Case "hide" : Answer control.ToolbarHide()
+    Case "dispose" : Answer control.ToolbarDispose()
+    Case "catalog" : Answer control.ShowCatalog()
+    Case "about" : Answer TypeName(control.ShowAboutBox())
+    Case "visible" : Answer control.IsToolbarVisible() & " " & control.IsCatalogVisible()
+    Case "set" : SetField words(1), words(2), words(3)
+    Case "raise" : SetRaising words(1), words(2)
+    Case "release" : Set control = Nothing : Answer "released"
+    Case "quit" : running = False : Answer "over"
+  End Select
+End Sub
+
+running = True
+Answer "ready"
+Do While running
+  words = NextCommand
+  CarryOut
+Loop

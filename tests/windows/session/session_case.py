@@ -1,0 +1,90 @@
+"""What the real-input tests share: the programs under test, and a toolbar as a person meets it."""
+
+import argparse
+import sys
+import unittest
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[3]
+sys.path.insert(0, str(ROOT))
+
+from tests.windows.session import installation  # noqa: E402
+from tests.windows.session.client import Client  # noqa: E402
+from tools.session import desktop  # noqa: E402
+from tools.session.probe import HOT, PRESSED, PUSH_BUTTON, Probe, wait_for  # noqa: E402
+
+SCREENS = ROOT / "out" / "screens"
+programs = argparse.Namespace()
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--arch", default="x86")
+    parser.add_argument("--build", type=Path, required=True, help="the build tree of the programs")
+    options, rest = parser.parse_known_args()
+    programs.arch = options.arch
+    programs.control = options.build / "activex" / "ActiveNeridaToolbar.ocx"
+    programs.resources = options.build / "assets"
+    programs.script_host = options.build / "tests" / "windows" / "com" / "script_host.exe"
+    programs.host = options.build / "host" / "app" / "zephra-host.exe"
+    programs.probe = options.build / "tools" / "ui_probe" / "ui-probe.exe"
+    installation.register(programs.control, programs.arch)
+    installation.set_paths(programs.resources)
+    unittest.main(argv=[sys.argv[0], *rest], verbosity=2)
+
+
+class SessionCase(unittest.TestCase):
+    """A client with its toolbar at (300, 300), one for all tests of a class."""
+
+    fields = {}
+
+    @classmethod
+    def setUpClass(cls):
+        cls.probe = Probe(programs.probe)
+        cls.addClassCleanup(cls.probe.close)
+        cls.client = Client(programs.script_host)
+        cls.addClassCleanup(cls.client.close)
+        cls.client.do("create")
+        cls.client.set(**cls.fields)
+        cls.client.do("init", 0)
+        cls.client.do("show", 300, 300)
+        cls.toolbar = cls.probe.window("Zephra Toolbar: ")
+
+    def setUp(self):
+        self.client.forget()
+
+    def height(self):
+        _, top, _, bottom = self.probe.describe(self.toolbar)["rect"]
+        return bottom - top
+
+    def buttons(self):
+        return [e for e in self.probe.elements(self.toolbar) if e["role"] == PUSH_BUTTON]
+
+    def button(self, name):
+        return self.probe.element(self.toolbar, name, PUSH_BUTTON)
+
+    def at(self, name):
+        return desktop.centre(self.button(name)["rect"])
+
+    def click(self, name, **how):
+        desktop.click(self.at(name), **how)
+
+    def unfold(self):
+        if self.height() != 76:
+            self.click("Model Orientation")
+            wait_for(lambda: self.height() == 76, what="the movement groups")
+
+    def assertTold(self, *expected):
+        self.assertEqual(list(expected), self.client.told(len(expected)))
+
+    def assertNothingTold(self):
+        """A press that the model does hear of comes first and alone."""
+        self.click("Increase Model Size")
+        self.assertTold("ScaleModel Integer 1")
+
+    def waitForState(self, name, bit, value=True):
+        wait_for(lambda: bool(self.button(name)["state"] & bit) == value, what=f"state {bit:#x} of {name}")
+
+    def picture(self, name):
+        left, top, right, bottom = self.probe.describe(self.toolbar)["rect"]
+        desktop.picture(SCREENS / f"{name}.png", (left - 20, top - 20, right + 20, bottom + 120))

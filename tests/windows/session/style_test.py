@@ -1,0 +1,97 @@
+"""The style group: which of its controls a model gets, the list of styles, and the animation indicator."""
+
+from session_case import SessionCase, desktop, main, wait_for
+
+LIST = "Select a new LookStyle"
+# What taking over the model's state asks of it.
+INIT_SELF = ["InterfaceFlags", "AnimationFrameCount", "ModelName", "LookStyleName", "IsToolbarShowing"]
+STYLE_BUTTONS = {"Line Thickness": 16, "Line Color": 2, "Fill Color": 1}
+
+
+class Offers(SessionCase):
+    def names(self):
+        return {b["name"] for b in self.buttons()}
+
+    def test_each_flag_shows_its_button(self):
+        for flags in range(0, 32):
+            if flags & 8:
+                continue
+            with self.subTest(flags=flags):
+                self.client.set(InterfaceFlags=flags)
+                self.client.do("init", 0)
+                expected = {name for name, bit in STYLE_BUTTONS.items() if flags & bit}
+                self.assertEqual(expected, self.names() & set(STYLE_BUTTONS))
+                self.assertIn("Background Options", self.names())
+                if flags in (0, 19):
+                    self.picture(f"interface-flags-{flags}")
+
+    def test_still_model_covers_the_animation_button(self):
+        self.client.set(AnimationFrameCount=3)
+        self.client.do("init", 0)
+        place = self.at("Animation Playback")
+        self.client.set(AnimationFrameCount=0)
+        self.client.do("init", 0)
+        self.client.forget()
+        before = {w["window"] for w in self.probe.windows()}
+        desktop.click(place)
+        self.unfold()
+        self.assertNothingTold()
+        self.assertEqual(before, {w["window"] for w in self.probe.windows()} & before | before)
+        self.assertFalse({w["window"] for w in self.probe.windows()} - before, "something opened")
+        self.picture("animation-indicator")
+
+
+class StyleList(SessionCase):
+    def setUp(self):
+        self.client.set(LookStyleName="Ink")
+        self.client.do("init", 0)
+        super().setUp()
+
+    def list_place(self):
+        rect = self.probe.element(self.toolbar, LIST, 0x2E)["rect"]
+        return rect[2] - 8, (rect[1] + rect[3]) // 2
+
+    def opened(self):
+        desktop.click(self.list_place())
+        return self.probe.window(class_name="ComboLBox")
+
+    def chosen(self, style):
+        read = list(INIT_SELF)
+        # The changed entry is taken over again while the first taking over still runs.
+        return [f"LookStyle := String {style}", *read, "RefreshDisplay"]
+
+    def test_current_style_is_selected(self):
+        self.assertEqual("Ink", self.probe.element(self.toolbar, LIST, 0x2E)["value"])
+
+    def test_choice_by_mouse(self):
+        menu = self.opened()
+        left, top, right, bottom = menu["rect"]
+        self.picture("style-list")
+        row = (bottom - top) // 4
+        desktop.click((left + 20, top + 2 * row + row // 2))
+        self.probe.gone(class_name="ComboLBox")
+        self.assertTold(*self.chosen("Clay"))
+
+    def test_choice_by_keyboard(self):
+        self.opened()
+        desktop.key("Down", "Return")
+        self.probe.gone(class_name="ComboLBox")
+        told = self.client.told(len(self.chosen("Clay")))
+        self.assertEqual(self.chosen("Clay"), told)
+
+    def test_basic_draw(self):
+        self.opened()
+        desktop.key("Up", "Return")
+        self.probe.gone(class_name="ComboLBox")
+        self.assertTold(*self.chosen("Basic Draw"))
+
+    def test_same_entry_again_is_no_choice(self):
+        self.opened()
+        desktop.key("Return")
+        self.probe.gone(class_name="ComboLBox")
+        self.unfold()
+        self.assertNothingTold()
+
+
+if __name__ == "__main__":
+    main()
