@@ -95,6 +95,9 @@ LRESULT DocumentWindow::handleMessage(UINT message, WPARAM wParam, LPARAM lParam
     case WM_COMMAND:
       command(LOWORD(wParam));
       return 0;
+    case WM_INITMENUPOPUP:
+      showMenuState(reinterpret_cast<HMENU>(wParam));
+      return 0;
     case WM_KEYDOWN:
       keyDown(wParam);
       return 0;
@@ -136,6 +139,9 @@ void DocumentWindow::command(WORD id) {
     case IDM_LEAVE_OBJECT:
       deactivate();
       break;
+    case IDM_PLAY:
+      object.togglePlaying();
+      break;
     case IDM_ABOUT:
       about();
       break;
@@ -144,9 +150,19 @@ void DocumentWindow::command(WORD id) {
   }
 }
 
+void DocumentWindow::showMenuState(HMENU menu) const {
+  const Playback& animation = object.animation();
+  const auto enable = [menu](UINT id, bool on) { EnableMenuItem(menu, id, on ? MF_ENABLED : MF_GRAYED); };
+  enable(IDM_EDIT_OBJECT, !editing.active());
+  enable(IDM_LEAVE_OBJECT, editing.active());
+  enable(IDM_PLAY, animation.frameCount() > 0);
+  CheckMenuItem(menu, IDM_PLAY, animation.playing() ? MF_CHECKED : MF_UNCHECKED);
+}
+
 void DocumentWindow::keyDown(WPARAM key) {
   if (key == VK_RETURN) activate();
   if (key == VK_ESCAPE) deactivate();
+  if (key == VK_SPACE) object.togglePlaying();
 }
 
 void DocumentWindow::buttonDown(POINT point) {

@@ -35,6 +35,7 @@ class DocumentWindow {
   void chooseModel();
   void showTitle();
   void about();
+  void showMenuState(HMENU menu) const;
   void deactivate();
   void close();
 

@@ -106,6 +106,14 @@ void EmbeddedObject::paint(HDC dc, bool active) {
   FrameRect(dc, &frame, brush.get());
 }
 
+void EmbeddedObject::togglePlaying() {
+  Playback& animation = object.scene.animation;
+  const bool starts = !animation.playing();
+  if (starts && animation.currentFrame() >= animation.frameCount() - 1) animation.setCurrentFrame(0);
+  animation.setPlaying(starts);
+  object.animated();
+}
+
 void EmbeddedObject::timePasses() {
   const double seconds = secondsSince(lastTick);
   lastTick = now();

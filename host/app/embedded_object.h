@@ -39,6 +39,9 @@ class EmbeddedObject final : public ModelSite, public CallListener {
   [[nodiscard]] RECT areaWithFrame() const;
   void paint(HDC dc, bool active);
 
+  [[nodiscard]] const Playback& animation() const { return object.scene.animation; }
+  /// Plays from the start again when the animation has come to its end.
+  void togglePlaying();
   /// Lets the animation go on; the timer belongs to the window.
   void timePasses();
 

@@ -8,4 +8,5 @@
 #define IDM_EXIT 201
 #define IDM_EDIT_OBJECT 210
 #define IDM_LEAVE_OBJECT 211
+#define IDM_PLAY 212
 #define IDM_ABOUT 220
