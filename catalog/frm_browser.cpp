@@ -5,11 +5,7 @@
 namespace nerida {
 
 frmBrowser::frmBrowser(State& state, WindowFactory& windows, const Paths& paths, Messages& messages, Shell& shell)
-    : Form(state, windows, browserLayout, catalogIndex),
-      model(state),
-      paths(paths),
-      messages(messages),
-      shell(shell) {}
+    : Form(state, windows, browserLayout, catalogIndex), model(state), paths(paths), messages(messages), shell(shell) {}
 
 void frmBrowser::Form_Load() {
   window().closeRequested = [this] { HideSelf(); };
@@ -40,7 +36,7 @@ void frmBrowser::show() {
 }
 
 void frmBrowser::HideSelf() {
-  handle(messages, [this] {
+  handleHere([this] {
     hideWindow();
     markShown(false);
     if (model.exists()) tellClosed();
@@ -55,7 +51,7 @@ void frmBrowser::tellClosed() {
 }
 
 void frmBrowser::ShowHelpFile() {
-  handle(messages, [this] { shell.openHelp(hWnd(), paths.HelpPath + "\\Zephra.hlp"); });
+  handleHere([this] { shell.openHelp(hWnd(), paths.HelpPath + "\\Zephra.hlp"); });
 }
 
 void frmBrowser::SetCallback() {

@@ -36,6 +36,11 @@ class frmBrowser : public Form, public CatalogWindow {
  private:
   void show();
   void tellClosed();
+  // The catalog tells every failure with the general message.
+  template <class Body>
+  void handleHere(Body&& body) {
+    handleWith([this](const Error&) { messages.ShowErrorMessage(); }, body);
+  }
 
   ModelObject model;
   const Paths& paths;

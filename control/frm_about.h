@@ -16,6 +16,10 @@ class frmAbout : public Form {
 
  protected:
   void Form_Load() override;
+  // Hidden, the box ends its modal display.
+  void Form_QueryUnload() override {
+    if (isVisible()) hideWindow();
+  }
 
  private:
   const Paths& paths;

@@ -27,6 +27,9 @@ void startStep(Messages& messages, Statement&& statement) {
   }
 }
 
+// The model may have disposed of the forms when it was told that one shows.
+WindowHandle handleUnlessGone(Form& form) { return form.isLoaded() ? form.hWnd() : failed; }
+
 std::int32_t atLeastOne(std::int32_t twipsPerPixel) { return twipsPerPixel == 0 ? 1 : twipsPerPixel; }
 
 }  // namespace
@@ -116,7 +119,7 @@ WindowHandle NeridaWindow::ToolbarShow(std::int16_t& x, std::int16_t& y) {
         library.toolbar.placeTopmost({x, y});
         library.state.gFormShown[toolbarIndex] = true;
         ModelObject(library.state).setIsToolbarShowing(true);
-        result = library.toolbar.hWnd();
+        result = handleUnlessGone(library.toolbar);
       },
       [&](const Error&) { library.messages.ShowToolbarErrorMessage(); });
   return result;
@@ -139,6 +142,9 @@ std::int32_t NeridaWindow::ToolbarHide() {
 std::int32_t NeridaWindow::ToolbarInit(ObjectRef newModel, WindowHandle hostWindow) {
   State& state = library.state;
   std::int32_t lastError = 0;
+  state.gModelObject.reset();  // the old model goes before the new one is bound
+  state.gModelObject = std::move(newModel);
+  state.gHostWnd = hostWindow;
   // A binding that was replaced or disposed of from inside one of its own calls is not worth another try.
   const int binding = ++state.bindings;
   const auto stillBound = [&] { return state.bindings == binding; };
@@ -148,6 +154,7 @@ std::int32_t NeridaWindow::ToolbarInit(ObjectRef newModel, WindowHandle hostWind
       trap(statement, [&](const Error& failure) {
         done = false;
         lastError = failure.number;
+        if (!stillBound()) return;
         if (failure.number == error::outOfMemory) {
           library.messages.ShowLowMemoryMessage();
         } else {
@@ -157,8 +164,6 @@ std::int32_t NeridaWindow::ToolbarInit(ObjectRef newModel, WindowHandle hostWind
     }
   };
 
-  state.gModelObject = newModel;
-  state.gHostWnd = hostWindow;
   ModelObject model(state);
   bool catalogShowing = false;
   insistOn([&] { library.toolbar.GetLookStyleList(); });
@@ -191,7 +196,7 @@ WindowHandle NeridaWindow::ShowCatalog() {
         }
         library.toolbar.SetCallback();
         library.browser.ShowSelf();
-        result = library.browser.hWnd();
+        result = handleUnlessGone(library.browser);
       },
       [&](const Error&) { library.messages.ShowToolbarErrorMessage(); });
   return result;
@@ -213,10 +218,14 @@ void NeridaWindow::unloadLeftovers() {
 // The mark is read again before each form: an earlier one may have taken it down.
 void NeridaWindow::UnloadAllForms() {
   const std::pair<std::size_t, Form*> order[] = {
-      {toolbarIndex, &library.toolbar},           {lineThicknessIndex, &library.lineThicknessMenu},
-      {lineColorsIndex, &library.lineColors},     {surfaceColorsIndex, &library.surfaceColors},
-      {backgroundColorsIndex, &library.backgroundColors}, {catalogIndex, &library.browser},
-      {lightingIndex, &library.lighting},         {animationIndex, &library.animation},
+      {toolbarIndex, &library.toolbar},
+      {lineThicknessIndex, &library.lineThicknessMenu},
+      {lineColorsIndex, &library.lineColors},
+      {surfaceColorsIndex, &library.surfaceColors},
+      {backgroundColorsIndex, &library.backgroundColors},
+      {catalogIndex, &library.browser},
+      {lightingIndex, &library.lighting},
+      {animationIndex, &library.animation},
   };
   for (const auto& [index, form] : order) {
     if (library.state.gFormLoaded[index]) form->unload();

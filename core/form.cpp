@@ -1,6 +1,20 @@
 #include "core/form.h"
 
 namespace nerida {
+namespace {
+
+class Unloading {
+ public:
+  explicit Unloading(State& state) : state(state) { ++state.unloading; }
+  ~Unloading() { --state.unloading; }
+  Unloading(const Unloading&) = delete;
+  Unloading& operator=(const Unloading&) = delete;
+
+ private:
+  State& state;
+};
+
+}  // namespace
 
 Form::Form(State& state, WindowFactory& windows, const FormLayout& layout, int index)
     : state(state), windows(windows), layout(layout), index(index) {}
@@ -18,14 +32,24 @@ void Form::load() {
 
 void Form::unload() {
   if (!isLoaded()) return;
+  const std::weak_ptr<Window> leaving = currentWindow;
+  const auto isGone = [&] { return !isLoaded() || currentWindow != leaving.lock(); };
+  const Unloading whileUnloading(state);
   ignoringErrors([&] { Form_QueryUnload(); });
+  if (isGone()) return;  // the model had the form unloaded from inside
   ignoringErrors([&] { Form_Unload(); });
+  if (isGone()) return;
   markUnloaded();
   currentWindow.reset();
 }
 
 Window& Form::window() {
   load();
+  return loadedWindow();
+}
+
+Window& Form::loadedWindow() {
+  if (!isLoaded()) throw Error(error::objectNotSet);
   return *currentWindow;
 }
 

@@ -44,6 +44,8 @@ class Form {
 
   // The window, loaded if need be, as touching any control of a form loads it.
   Window& window();
+  // The window, where the model may have taken the form down inside a call: error 91 then, and no window comes back.
+  Window& loadedWindow();
   // Keeps the window object alive where its form may be unloaded meanwhile.
   std::shared_ptr<Window> sharedWindow() const { return currentWindow; }
 
@@ -51,13 +53,20 @@ class Form {
   void markUnloaded();
   void markShown(bool shown) { state.gFormShown[static_cast<std::size_t>(index)] = shown; }
 
-  // Runs an event handler: a failure ends it and is reported, unless the form went away under it.
+  // Runs an event handler: a failure ends it and is reported, unless the form went away under it or forms are being
+  // unloaded.
+  template <class Report, class Body>
+  void handleWith(Report&& report, Body&& body) {
+    const bool wasLoaded = isLoaded();
+    const std::weak_ptr<Window> before = currentWindow;
+    trap(body, [&](const Error& failure) {
+      const bool gone = wasLoaded && (!isLoaded() || before.lock() != currentWindow);
+      if (!gone && state.unloading == 0) report(failure);
+    });
+  }
   template <class Body>
   void handle(Messages& messages, Body&& body) {
-    const Window* before = currentWindow.get();
-    trap(body, [&](const Error& failure) {
-      if (currentWindow.get() == before) messages.report(failure);
-    });
+    handleWith([&](const Error& failure) { messages.report(failure); }, body);
   }
 
   State& state;

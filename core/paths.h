@@ -6,9 +6,9 @@ namespace nerida {
 
 // Where the installation keeps its files. Filled when a control starts.
 struct Paths {
-  std::string DictionaryPath;    // search database, About box pictures, the catalog's logo
+  std::string DictionaryPath;  // search database, About box pictures, the catalog's logo
   std::string StylePath;
-  std::string SystemPath;        // Toolbar.res, expansion page
+  std::string SystemPath;  // Toolbar.res, expansion page
   std::string HelpPath;
   std::string ProductText;       // shown in the About box
   std::string ModelLibraryPath;  // root of the model files

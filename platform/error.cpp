@@ -13,6 +13,7 @@ std::string standardErrorText(std::int32_t number) {
       {error::outOfMemory, "Out of memory"},
       {error::subscriptOutOfRange, "Subscript out of range"},
       {error::typeMismatch, "Type mismatch"},
+      {error::outOfStackSpace, "Out of stack space"},
       {error::fileNotFound, "File not found"},
       {error::objectNotSet, "Object variable or With block variable not set"},
       {error::cannotCreateObject, "ActiveX component can't create object"},

@@ -79,9 +79,7 @@ struct ToNumber {
   double operator()(const std::shared_ptr<const Array>&) const { throw Error(error::typeMismatch); }
 };
 
-double toNumber(const Value& value) {
-  return std::visit(ToNumber{}, static_cast<const Value::variant&>(value));
-}
+double toNumber(const Value& value) { return std::visit(ToNumber{}, static_cast<const Value::variant&>(value)); }
 
 bool equalsIgnoringCase(std::string_view a, std::string_view lower) {
   if (a.size() != lower.size()) return false;

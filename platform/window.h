@@ -18,6 +18,7 @@ struct Message {
   std::uint32_t number = 0;
   std::uintptr_t wParam = 0;
   std::intptr_t lParam = 0;
+  friend bool operator==(const Message&, const Message&) = default;
 };
 
 inline constexpr std::uint32_t messageActivateApplication = 28;

@@ -1,11 +1,9 @@
 #include "popups/color_palette.h"
 
-#include "popups/popup_layouts.h"
-
 namespace nerida {
 
 ColorPalette::ColorPalette(State& state, WindowFactory& windows, PopupOpener& opener, const PaletteRole& role)
-    : Popup(state, windows, paletteLayout, role.index, opener), role(role) {}
+    : Popup(state, windows, role.layout, role.index, opener), role(role) {}
 
 void ColorPalette::HideSelf() {
   if (closing) return;

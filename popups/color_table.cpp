@@ -59,7 +59,7 @@ std::string slotKey(std::size_t slot) { return "PrevColor" + std::to_string(slot
 // Settings are texts that anybody can edit: what is no number, or no 32-bit one, counts as 0.
 std::int32_t storedNumber(const std::string& text) {
   const double number = std::nearbyint(leadingNumber(text));
-  return std::abs(number) <= 2147483647.0 ? static_cast<std::int32_t>(number) : 0;
+  return number >= -2147483648.0 && number <= 2147483647.0 ? static_cast<std::int32_t>(number) : 0;
 }
 
 std::int16_t storedSlot(const std::string& text) {

@@ -4,7 +4,9 @@
 
 namespace nerida {
 
-extern const FormLayout paletteLayout;
+extern const FormLayout backgroundColorsLayout;
+extern const FormLayout lineColorsLayout;
+extern const FormLayout surfaceColorsLayout;
 extern const FormLayout lineThicknessLayout;
 extern const FormLayout lightingLayout;
 extern const FormLayout animationLayout;

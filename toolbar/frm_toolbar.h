@@ -44,7 +44,8 @@ class frmToolbar : public Form, public PopupOpener {
   void NudgeToggle(bool on);
   void setCaptionFor(const std::string& modelName);
   // Hands a message to the procedure that was in place before SetCallback.
-  std::intptr_t callPrevious(const Message& message) { return window().callPrevious(message); }
+  // The toolbar's own window is named to it, whatever window the message came to.
+  std::intptr_t callPrevious(Message message);
   // The mark that the lighting popup is up, cleared when the application loses the focus.
   void clearLightingMark() { openMarks.lighting = false; }
 
@@ -77,7 +78,7 @@ class frmToolbar : public Form, public PopupOpener {
   void resetState();
   void connectEvents();
   void buildBars();
-  ButtonBar& bar(const char* name, int index) { return window().buttonBar(name, index); }
+  ButtonBar& bar(const char* name, int index) { return loadedWindow().buttonBar(name, index); }
   void makeSettings(const char* bar, int index);
   void addButtons(const char* bar, int index);
   void showDefault(const char* bar, int index) { this->bar(bar, index).showLayout("Default"); }
@@ -115,9 +116,11 @@ class frmToolbar : public Form, public PopupOpener {
   bool NudgeOn = false;
   std::int32_t activations = 0;
   bool Initialising = false;
+  int nestedInits = 0;
   bool LineThicknessEnabled = false;
   bool hiding = false;
-  std::vector<std::string> lookStyles;
+  std::vector<std::string> lookStyles;    // in the model's order, which is that of the entries
+  std::vector<std::string> sortedStyles;  // the same, for looking names up
 };
 
 }  // namespace nerida

@@ -1,4 +1,6 @@
 // How the toolbar is built, and how it adapts to a model.
+#include <string_view>
+
 #include "toolbar/button_table.h"
 #include "toolbar/frm_toolbar.h"
 #include "toolbar/swatches.h"
@@ -12,8 +14,6 @@ constexpr std::int32_t noSurfaceColor = 1;
 constexpr std::int32_t noLineColor = 2;
 constexpr std::int32_t lineThicknessFlag = 4;
 constexpr std::int32_t noLineThickness = 16;
-
-constexpr const char* customStyle = "Custom Style";
 
 }  // namespace
 
@@ -45,6 +45,7 @@ void frmToolbar::resetState() {
   Initialising = false;
   LineThicknessEnabled = false;
   lookStyles = {""};
+  sortedStyles = lookStyles;
 }
 
 void frmToolbar::connectEvents() {
@@ -97,23 +98,26 @@ void frmToolbar::makeSettings(const char* name, int index) {
 
 void frmToolbar::addButtons(const char* name, int index) {
   ButtonBar& target = bar(name, index);
+  const bool captionFirst = std::string_view(name) == "barWorld";
   target.openLayout("Default");
   for (const ButtonRow& row : buttonsOf(name, index)) {
     target.addButton(row.key, row.bitmapSpec);
-    if (*row.caption) target.setCaption(row.caption);
+    if (*row.caption && captionFirst) target.setCaption(row.caption);
     if (*row.tooltip) target.setTooltip(row.tooltip);
+    if (*row.caption && !captionFirst) target.setCaption(row.caption);
   }
   target.recomputeLayout();
 }
 
 void frmToolbar::InitSelf() {
+  load();
   const std::int32_t flags = model.InterfaceFlags();
   showEither((flags & noSurfaceColor) != 0, "picSurface", 2);
   showEither((flags & noLineColor) != 0, "picLine", 1);
   LineThicknessEnabled = (flags & lineThicknessFlag) != 0;
   showEither((flags & noLineThickness) != 0, "picLineThick", 0);
   showAnimationState();
-  if (window().comboBox("cmbStyles").count() < 1) {
+  if (loadedWindow().comboBox("cmbStyles").count() < 1) {
     lookStyles.clear();
     GetLookStyleList();
   }
@@ -125,49 +129,26 @@ void frmToolbar::InitSelf() {
 // Either the style button or the swatch in its place.
 void frmToolbar::showEither(bool button, const char* swatch, int styleBar) {
   if (button) {
-    window().pictureBox(swatch).setVisible(false);
+    loadedWindow().pictureBox(swatch).setVisible(false);
     bar("barLS", styleBar).setVisible(true);
   } else {
     bar("barLS", styleBar).setVisible(false);
-    window().pictureBox(swatch).setVisible(true);
+    loadedWindow().pictureBox(swatch).setVisible(true);
   }
 }
 
 // The indicator lies over the Animation button of a model that has no animation.
 void frmToolbar::showAnimationState() {
   const bool animated = model.AnimationFrameCount() > 0;
-  window().pictureBox("picAni").setVisible(!animated);
-  if (animated) neighbours.animation->setFrameText(std::to_string(model.AnimationCurrentFrame()));
+  loadedWindow().pictureBox("picAni").setVisible(!animated);
+  if (!animated) return;
+  const std::string frame = std::to_string(model.AnimationCurrentFrame());
+  loadedWindow();
+  neighbours.animation->setFrameText(frame);
 }
 
 void frmToolbar::setCaptionFor(const std::string& modelName) {
-  window().setCaption(std::string(toolbarTitle) + ": " + modelName);
-}
-
-// A selection that changes raises cmbStyles_Click; Initialising tells it that nobody has chosen anything.
-void frmToolbar::selectCurrentStyle() {
-  struct WhileInitialising {
-    explicit WhileInitialising(bool& flag) : flag(flag) { flag = true; }
-    ~WhileInitialising() { flag = false; }
-    bool& flag;
-  } const initialising(Initialising);
-
-  const std::string name = model.LookStyleName();
-  ComboBox& styles = window().comboBox("cmbStyles");
-  if (name != "none") {
-    styles.select(styleEntry(name));
-    return;
-  }
-  if (styles.count() > 0 && styleEntry(customStyle) < 0) styles.addItem(customStyle);
-  styles.select(styleEntry(customStyle));
-}
-
-int frmToolbar::styleEntry(const std::string& name) {
-  const ComboBox& styles = window().comboBox("cmbStyles");
-  for (int i = 0; i < styles.count(); ++i) {
-    if (styles.item(i) == name) return i;
-  }
-  return -1;
+  loadedWindow().setCaption(std::string(toolbarTitle) + ": " + modelName);
 }
 
 void frmToolbar::Form_QueryUnload() { hideWithPopups(); }

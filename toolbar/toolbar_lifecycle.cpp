@@ -12,7 +12,8 @@ void frmToolbar::ShowSelf() {
     NudgeToggle(NudgeOn);
     markShown(true);
     model.setIsToolbarShowing(true);
-    window().showTopmostAt(window().position());
+    Window& form = loadedWindow();
+    form.showTopmostAt(form.position());
   });
 }
 
@@ -39,6 +40,12 @@ void frmToolbar::SetCallback() { window().hook(neighbours.windowProcedure); }
 
 void frmToolbar::RestoreCallback() {
   if (isLoaded()) window().unhook();
+}
+
+std::intptr_t frmToolbar::callPrevious(Message message) {
+  if (!isLoaded()) return 0;
+  message.window = hWnd();
+  return window().callPrevious(message);
 }
 
 void frmToolbar::NudgeToggle(bool on) {

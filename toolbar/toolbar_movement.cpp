@@ -7,8 +7,8 @@ namespace nerida {
 namespace {
 
 // The trailing blanks belong to the captions.
-constexpr std::array<const char*, 8> presetCaptions{"Reset &Model",   "-",           "to &Front", "to &Back ",
-                                                    "to &Right Side", "to &Left Side", "to &Top",   "to &Bottom "};
+constexpr std::array<const char*, 8> presetCaptions{
+    "Reset &Model", "-", "to &Front", "to &Back ", "to &Right Side", "to &Left Side", "to &Top", "to &Bottom "};
 
 struct Step {
   const char* key;
@@ -17,12 +17,12 @@ struct Step {
 };
 
 constexpr Step steps[] = {
-    {"NudgeUp", &ModelObject::MoveY, 1},          {"NudgeDown", &ModelObject::MoveY, -1},
-    {"NudgeLeft", &ModelObject::MoveX, 1},        {"NudgeRight", &ModelObject::MoveX, -1},
-    {"RotateUp", &ModelObject::RotateX, 2},       {"RotateDown", &ModelObject::RotateX, -2},
-    {"RotateLeft", &ModelObject::RotateY, 2},     {"RotateRight", &ModelObject::RotateY, -2},
+    {"NudgeUp", &ModelObject::MoveY, 1},           {"NudgeDown", &ModelObject::MoveY, -1},
+    {"NudgeLeft", &ModelObject::MoveX, 1},         {"NudgeRight", &ModelObject::MoveX, -1},
+    {"RotateUp", &ModelObject::RotateX, 2},        {"RotateDown", &ModelObject::RotateX, -2},
+    {"RotateLeft", &ModelObject::RotateY, 2},      {"RotateRight", &ModelObject::RotateY, -2},
     {"RotateClockwise", &ModelObject::RotateZ, 2}, {"RotateCounter", &ModelObject::RotateZ, -2},
-    {"Shrink", &ModelObject::ScaleModel, -1},     {"Enlarge", &ModelObject::ScaleModel, 1},
+    {"Shrink", &ModelObject::ScaleModel, -1},      {"Enlarge", &ModelObject::ScaleModel, 1},
 };
 
 // Hundredths of a degree; every angle is at least 0 and below a full turn.
@@ -31,12 +31,12 @@ struct Orientation {
 };
 
 constexpr std::array<Orientation, 6> orientations{{
-    {0, 0, 0},       // front
-    {0, 18000, 0},   // back
-    {0, 9000, 0},    // right side
-    {0, 27000, 0},   // left side
-    {27000, 0, 0},   // top
-    {9000, 0, 0},    // bottom
+    {0, 0, 0},      // front
+    {0, 18000, 0},  // back
+    {0, 9000, 0},   // right side
+    {0, 27000, 0},  // left side
+    {27000, 0, 0},  // top
+    {9000, 0, 0},   // bottom
 }};
 constexpr int firstOrientationItem = 2;
 
@@ -59,7 +59,8 @@ void frmToolbar::barMove_ButtonPress(const std::string& key) {
 // The menu hangs below the first movement group and ends at its right edge.
 void frmToolbar::openPresetMenu() {
   const Bounds group = bar("barMove", 0).bounds();
-  const int item = window().popUpMenuRightAligned(presetCaptions, group.left + group.width, group.top + group.height);
+  const std::shared_ptr<Window> form = sharedWindow();  // the form may be unloaded while the menu is open
+  const int item = form->popUpMenuRightAligned(presetCaptions, group.left + group.width, group.top + group.height);
   if (item >= 0 && isLoaded()) mnuReset_Click(item);
 }
 

@@ -25,7 +25,10 @@ std::string written(const Value& value) { return std::visit(Writer{}, static_cas
 
 void ScriptedObject::enter(const std::string& member, const std::string& line) {
   transcript.add("model: " + line);
-  if (const auto hook = hooks.find(member); hook != hooks.end()) hook->second();
+  if (const auto hook = hooks.find(member); hook != hooks.end()) {
+    const std::function<void()> action = hook->second;  // it may change the hooks
+    action();
+  }
   if (const auto failure = failures.find(member); failure != failures.end()) throw failure->second;
 }
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/button_bar.h"
 #include "platform/bitmap_spec.h"
+#include "platform/button_bar.h"
 #include "platform/headless/transcript.h"
 
 namespace nerida::headless {

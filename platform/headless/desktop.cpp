@@ -12,8 +12,6 @@ Point Screen::screenToClient(WindowHandle window, Point screen) {
   return {screen.x - hostClientCorner.x, screen.y - hostClientCorner.y};
 }
 
-void Screen::setForegroundWindow(WindowHandle window) {
-  transcript.add("foreground " + std::to_string(window));
-}
+void Screen::setForegroundWindow(WindowHandle window) { transcript.add("foreground " + std::to_string(window)); }
 
 }  // namespace nerida::headless

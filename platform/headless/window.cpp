@@ -14,9 +14,8 @@ std::string indexed(const ControlLayout& control, bool inArray) {
 }
 
 bool isInArray(const FormLayout& layout, const ControlLayout& control) {
-  return std::count_if(layout.controls.begin(), layout.controls.end(), [&](const ControlLayout& other) {
-           return std::string_view(other.name) == control.name;
-         }) > 1;
+  return std::count_if(layout.controls.begin(), layout.controls.end(),
+                       [&](const ControlLayout& other) { return std::string_view(other.name) == control.name; }) > 1;
 }
 
 std::string written(Point point) { return "(" + std::to_string(point.x) + ", " + std::to_string(point.y) + ")"; }
@@ -134,7 +133,8 @@ void FormWindow::unhook() {
 
 std::intptr_t FormWindow::callPrevious(const Message& message) {
   note("previous procedure gets message " + std::to_string(message.number));
-  return 0;
+  passedOn.push_back(message);
+  return previousAnswer;
 }
 
 std::intptr_t FormWindow::send(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam) {
@@ -145,6 +145,7 @@ std::intptr_t FormWindow::send(std::uint32_t message, std::uintptr_t wParam, std
 int FormWindow::popUpMenuRightAligned(std::span<const char* const> captions, Twips x, Twips y) {
   note("menu ending at " + std::to_string(x.value) + ", " + std::to_string(y.value));
   windows.lastMenu.assign(captions.begin(), captions.end());
+  if (windows.duringMenu) windows.duringMenu();
   if (windows.menuChoices.empty()) throw TestEnded{"a menu waits for a user"};
   const int choice = windows.menuChoices.front();
   windows.menuChoices.pop_front();

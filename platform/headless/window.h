@@ -54,6 +54,9 @@ class FormWindow : public Window {
   std::string caption;
   Twips height;
   const FormLayout& layout;
+  // What the procedure behind the hook was handed, and what it answers.
+  std::vector<Message> passedOn;
+  std::intptr_t previousAnswer = 0;
 
  private:
   template <class C>
@@ -93,6 +96,8 @@ class Windows : public WindowFactory {
   FormWindow* active = nullptr;
   // What the user does while a modal window is shown; a window that nobody closes ends the test.
   std::function<void(FormWindow&)> duringModal;
+  // Runs while a pop-up menu is open.
+  std::function<void()> duringMenu;
   // The entries that the user picks from pop-up menus, in order (-1: none).
   std::deque<int> menuChoices;
   std::vector<std::string> lastMenu;

@@ -18,19 +18,19 @@ TEST_F(ControlInit, ReadsStylesFirstThenTheModelsStateAndTellsWhatIsShown) {
   EXPECT_EQ(init(), 0);
   EXPECT_THAT(take(), ElementsAre("cmbStyles: clear", "model: GetLookStyleList ByRef Empty, ByRef Empty, ByRef Empty",
                                   "cmbStyles: add Basic Draw", "cmbStyles: add Shaded", "cmbStyles: add Ink Outline",
-                                  "model: InterfaceFlags",                                         //
-                                  "barLS(2): hidden", "picSurface: visible",                       //
-                                  "barLS(1): hidden", "picLine: visible",                          //
-                                  "barLS(0): hidden", "picLineThick: visible",                     //
-                                  "model: AnimationFrameCount", "picAni: visible",                 //
+                                  "model: InterfaceFlags",                                             //
+                                  "barLS(2): hidden", "picSurface: visible",                           //
+                                  "barLS(1): hidden", "picLine: visible",                              //
+                                  "barLS(0): hidden", "picLineThick: visible",                         //
+                                  "model: AnimationFrameCount", "picAni: visible",                     //
                                   "model: ModelName", "frmToolbar: caption Zephra Toolbar: Windmill",  //
                                   "model: LookStyleName", "cmbStyles: select 1",
                                   // the selection changed, so its click reads the state once more and redraws
-                                  "model: InterfaceFlags",                                         //
-                                  "barLS(2): hidden", "picSurface: visible",                       //
-                                  "barLS(1): hidden", "picLine: visible",                          //
-                                  "barLS(0): hidden", "picLineThick: visible",                     //
-                                  "model: AnimationFrameCount", "picAni: visible",                 //
+                                  "model: InterfaceFlags",                                             //
+                                  "barLS(2): hidden", "picSurface: visible",                           //
+                                  "barLS(1): hidden", "picLine: visible",                              //
+                                  "barLS(0): hidden", "picLineThick: visible",                         //
+                                  "model: AnimationFrameCount", "picAni: visible",                     //
                                   "model: ModelName", "frmToolbar: caption Zephra Toolbar: Windmill",  //
                                   "model: LookStyleName", "model: IsToolbarShowing", "model: RefreshDisplay",
                                   "model: IsToolbarShowing",  //

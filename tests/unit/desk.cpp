@@ -11,6 +11,11 @@ Value textArray(const std::vector<std::string>& texts, std::int32_t lowerBound) 
   return Value(std::shared_ptr<const Array>(array));
 }
 
+Lines withoutBars(Lines lines) {
+  std::erase_if(lines, [](const std::string& line) { return line.starts_with("bar"); });
+  return lines;
+}
+
 Desk::Desk() {
   platform.registry.keys = {
       {"Software", {}},

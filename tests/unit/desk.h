@@ -47,6 +47,8 @@ class Desk {
 
   // The user's answers to the message boxes to come.
   void answerBoxes(int count);
+  // What the toolbar asks the desktop for when a popup gives it the foreground.
+  std::string foregroundLine() const { return "foreground " + std::to_string(toolbar().handle()); }
 
   // Everything that happened since the last take, or only the lines of the model, or only the boxes.
   Lines take() { return platform.transcript.take(); }
@@ -58,6 +60,9 @@ class Desk {
  private:
   Lines takeLines(const std::string& prefix);
 };
+
+// Without the lines of button bars, which a loading toolbar writes many of.
+Lines withoutBars(Lines lines);
 
 class DeskTest : public testing::Test, protected Desk {};
 
