@@ -18,6 +18,7 @@ LONG toLong(WindowHandle window) { return static_cast<LONG>(window); }
 template <typename Result, typename Body>
 HRESULT answer(IUnknown& self, Result* result, Body body) noexcept {
   if (result == nullptr) return E_POINTER;
+  *result = Result{};
   return border([&] {
     const SelfReference reference(self);
     *result = body();
