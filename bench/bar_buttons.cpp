@@ -1,0 +1,64 @@
+#include "bench/bar_buttons.h"
+
+#include "bench/control.h"
+
+namespace nerida::bench {
+namespace {
+
+VARIANT number(LONG child) {
+  VARIANT result = {};
+  result.vt = VT_I4;
+  result.lVal = child;
+  return result;
+}
+
+struct Search {
+  const std::wstring& name;
+  BarButton found;
+};
+
+bool hasName(IAccessible& bar, LONG child, const std::wstring& wanted) {
+  BSTR name = nullptr;
+  if (bar.get_accName(number(child), &name) != S_OK) return false;
+  const bool same = wanted == name;
+  SysFreeString(name);
+  return same;
+}
+
+BOOL CALLBACK lookInto(HWND window, LPARAM parameter) {
+  auto& search = *reinterpret_cast<Search*>(parameter);
+  IAccessible* bar = nullptr;
+  AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
+                             reinterpret_cast<void**>(&bar));
+  if (bar == nullptr) return TRUE;
+  LONG count = 0;
+  bar->get_accChildCount(&count);
+  for (LONG child = 1; child <= count; ++child) {
+    if (!hasName(*bar, child, search.name)) continue;
+    search.found = {window, bar, child};
+    return FALSE;
+  }
+  bar->Release();
+  return TRUE;
+}
+
+}  // namespace
+
+void BarButton::press() const { accessible->accDoDefaultAction(number(child)); }
+
+POINT BarButton::centre() const {
+  LONG left = 0, top = 0, width = 0, height = 0;
+  accessible->accLocation(&left, &top, &width, &height, number(child));
+  POINT centre = {left + width / 2, top + height / 2};
+  ScreenToClient(bar, &centre);
+  return centre;
+}
+
+BarButton findButton(HWND toolbar, const std::wstring& name) {
+  Search search{name, {}};
+  EnumChildWindows(toolbar, lookInto, reinterpret_cast<LPARAM>(&search));
+  require(search.found.accessible != nullptr, "the button is found by its name");
+  return search.found;
+}
+
+}  // namespace nerida::bench
