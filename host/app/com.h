@@ -14,6 +14,12 @@ namespace nerida::host {
 std::wstring wide(std::string_view text);
 std::string utf8(std::wstring_view text);
 
+/// The system hands pointers and handles through as numbers.
+template <typename Pointer>
+Pointer pointerOf(LONG_PTR number) {
+  return reinterpret_cast<Pointer>(number);  // NOLINT(performance-no-int-to-ptr)
+}
+
 /// A counted reference to a COM object.
 template <typename Interface>
 class ComRef {

@@ -22,7 +22,7 @@ void check(HRESULT status, const std::string& what) {
 // Takes the texts of an automation exception over.
 std::string descriptionOf(EXCEPINFO& exception) {
   if (exception.pfnDeferredFillIn != nullptr) exception.pfnDeferredFillIn(&exception);
-  const std::string text = utf8(viewOf(exception.bstrDescription));
+  std::string text = utf8(viewOf(exception.bstrDescription));
   SysFreeString(exception.bstrDescription);
   SysFreeString(exception.bstrSource);
   SysFreeString(exception.bstrHelpFile);
@@ -80,7 +80,7 @@ void ControlClient::bind(IDispatch& model, HWND window) {
 HWND ControlClient::show(POINT corner) {
   VARIANT arguments[] = {shortValue(corner.y), shortValue(corner.x)};
   const LONG handle = callForNumber(L"ToolbarShow", arguments);
-  return handle == -1 ? nullptr : reinterpret_cast<HWND>(static_cast<std::intptr_t>(handle));
+  return handle == -1 ? nullptr : pointerOf<HWND>(handle);
 }
 
 void ControlClient::hide() { callForNumber(L"ToolbarHide"); }

@@ -66,11 +66,11 @@ void DocumentWindow::create(const Options& options) {
 
 LRESULT CALLBACK DocumentWindow::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_NCCREATE) {
-    auto* self = static_cast<DocumentWindow*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
+    auto* self = static_cast<DocumentWindow*>(pointerOf<CREATESTRUCTW*>(lParam)->lpCreateParams);
     self->window = window;
     SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
   }
-  auto* self = reinterpret_cast<DocumentWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  auto* self = pointerOf<DocumentWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
   if (self == nullptr) return DefWindowProcW(window, message, wParam, lParam);
   try {
     return self->handleMessage(message, wParam, lParam);
@@ -96,7 +96,7 @@ LRESULT DocumentWindow::handleMessage(UINT message, WPARAM wParam, LPARAM lParam
       command(LOWORD(wParam));
       return 0;
     case WM_INITMENUPOPUP:
-      showMenuState(reinterpret_cast<HMENU>(wParam));
+      showMenuState(pointerOf<HMENU>(static_cast<LONG_PTR>(wParam)));
       return 0;
     case WM_KEYDOWN:
       keyDown(wParam);

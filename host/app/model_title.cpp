@@ -38,7 +38,7 @@ std::string findModelTitle(const fs::path& model) {
   std::error_code ignored;
   fs::path folder = fs::absolute(model, ignored).parent_path();
   for (int level = 0; level < foldersAboveModel; ++level, folder = folder.parent_path()) {
-    const std::string name = nameInIndex(folder / "index.txt", number);
+    std::string name = nameInIndex(folder / "index.txt", number);
     if (!name.empty()) return name;
   }
   return {};

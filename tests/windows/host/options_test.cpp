@@ -11,8 +11,9 @@
 namespace nerida::host {
 namespace {
 
-Options read(std::vector<const wchar_t*> words) {
+Options read(const std::vector<const wchar_t*>& words) {
   std::vector<wchar_t*> plain;
+  plain.reserve(words.size());
   for (const wchar_t* word : words) plain.push_back(const_cast<wchar_t*>(word));
   return readOptions(plain);
 }
