@@ -35,8 +35,8 @@ BOOL CALLBACK countTree(HWND window, LPARAM count) {
   return TRUE;
 }
 
-// The documented counters (GetProcessHandleCount, GetGuiResources) are always 0 under Wine. Where they are, the
-// system's own tables are counted.
+// The documented counters (GetProcessHandleCount, GetGuiResources) are always 0 under Wine. There the handles are
+// counted in the list of all, and the drawing objects by their index, which Wine takes for a handle.
 long countHandles() {
   DWORD counted = 0;
   if (GetProcessHandleCount(GetCurrentProcess(), &counted) && counted > 0) return static_cast<long>(counted);
@@ -64,23 +64,12 @@ long countGdiObjects() {
   if (const DWORD counted = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS); counted > 0) {
     return static_cast<long>(counted);
   }
-  struct Entry {
-    std::uint64_t object;
-    ULONG owner;
-    USHORT unique;
-    BYTE type, flags;
-    std::uint64_t user;
-  };
-  constexpr std::size_t tableAt = sizeof(void*) == 4 ? 0x94 : 0xF8;  // in the process's environment block
-  constexpr int capacity = 0x4000;
-  PROCESS_BASIC_INFORMATION process = {};
-  NtQueryInformationProcess(GetCurrentProcess(), ProcessBasicInformation, &process, sizeof process, nullptr);
-  const auto* block = reinterpret_cast<const BYTE*>(process.PebBaseAddress);
-  const auto* entries = *reinterpret_cast<const Entry* const*>(block + tableAt);
-  require(entries != nullptr, "the process has a table of its drawing objects");
-  return static_cast<long>(std::count_if(entries, entries + capacity, [](const Entry& entry) {
-    return entry.type != 0;
-  }));
+  constexpr std::uintptr_t indices = 0x4000;
+  long objects = 0;
+  for (std::uintptr_t index = 1; index < indices; ++index) {
+    objects += GetObjectType(reinterpret_cast<HGDIOBJ>(index)) != 0 ? 1 : 0;
+  }
+  return objects;
 }
 
 Resources held() {
