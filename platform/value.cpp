@@ -43,7 +43,10 @@ std::optional<double> decimalPrefix(std::string_view text, std::size_t& length) 
   const std::size_t sign = text.front() == '+' ? 1 : 0;
   double number = 0;
   const auto result = std::from_chars(text.data() + sign, text.data() + i, number);
-  if (result.ec == std::errc::result_out_of_range) return std::numeric_limits<double>::infinity();
+  if (result.ec == std::errc::result_out_of_range) {  // too large, or with a negative exponent too small
+    const bool tooSmall = text.substr(mantissa, i - mantissa).find('-') != std::string_view::npos;
+    return tooSmall ? 0 : std::numeric_limits<double>::infinity();
+  }
   return number;
 }
 
