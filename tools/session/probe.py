@@ -21,6 +21,8 @@ class Probe:
     def __init__(self, program=ROOT / "build" / "windows-x86" / "tools" / "ui_probe" / "ui-probe.exe"):
         self.process = subprocess.Popen(["wine", str(program)], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
                                         stderr=subprocess.DEVNULL, text=True, encoding="utf-8")
+        # The first program makes the desktop; another one that starts meanwhile may find none to show its windows on.
+        wait_for(lambda: self.windows(class_name="Shell_TrayWnd", visible=False), what="the desktop")
 
     def ask(self, *words):
         self.process.stdin.write(" ".join(str(word) for word in words) + "\n")
