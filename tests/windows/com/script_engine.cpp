@@ -99,7 +99,7 @@ STDMETHODIMP ScriptEngine::OnScriptError(IActiveScriptError* scriptError) {
   const std::wstring source = take(exception.bstrSource);
   errorText = L"line " + std::to_wstring(line + 1) + L": error " + std::to_wstring(exception.scode & 0xFFFF) + L" (" +
               source + L"): " + take(exception.bstrDescription);
-  return S_OK;
+  return S_FALSE;  // kept for the end only: a native caller of the script still gets the number
 }
 
 STDMETHODIMP ScriptEngine::GetWindow(HWND* window) {

@@ -38,7 +38,7 @@ class Client:
                 self.other_lines.append(line)
         self.answers.put(None)
 
-    def answer(self, timeout=20):
+    def answer(self, timeout=10):
         """The answer to the oldest command that has none yet."""
         try:
             text = self.answers.get(timeout=timeout)

@@ -11,7 +11,10 @@ End Function
 
 Sub Note(member, arguments)
   WScript.Echo "> " & member & arguments
-  If member = raisingMember Then Err.Raise raisingNumber
+  If member = raisingMember Then
+    raisingMember = ""
+    Err.Raise raisingNumber
+  End If
 End Sub
 
 Class Model

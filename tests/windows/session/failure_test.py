@@ -51,7 +51,7 @@ class Raising(SessionCase):
     def test_raising_style_is_reported(self):
         self.client.do("raise", "LookStyle :=", 380)
         self.client.forget()
-        rect = self.probe.element(self.toolbar, "Select a new LookStyle", 0x2E)["rect"]
+        rect = self.probe.element(self.toolbar, "Select a new LookStyle")["rect"]
         desktop.click((rect[2] - 8, (rect[1] + rect[3]) // 2))
         self.probe.window(class_name="ComboLBox")
         desktop.key("Down", "Return")
@@ -103,7 +103,7 @@ class ForeignResources(Resources):
         (folder / "Toolbar.res").write_bytes(b"\x7fELF" + bytes(range(256)) * 40)
 
 
-del Resources
+del Resources  # the frame of the three above, no test of its own
 
 
 if __name__ == "__main__":

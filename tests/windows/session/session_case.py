@@ -87,4 +87,4 @@ class SessionCase(unittest.TestCase):
 
     def picture(self, name):
         left, top, right, bottom = self.probe.describe(self.toolbar)["rect"]
-        desktop.picture(SCREENS / f"{name}.png", (left - 20, top - 20, right + 20, bottom + 120))
+        desktop.picture(SCREENS / f"{name}.png", (left - 80, top - 20, right + 20, bottom + 150))
