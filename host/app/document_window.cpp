@@ -12,6 +12,7 @@
 namespace nerida::host {
 namespace {
 
+constexpr UINT messageSizeChanged = WM_APP + 3;  // posted: windows must not be shown while one is being sized
 constexpr const wchar_t* className = L"ZephraDocument";
 constexpr const wchar_t* productName = L"Zephra Document";
 
@@ -112,6 +113,9 @@ LRESULT DocumentWindow::handleMessage(UINT message, WPARAM wParam, LPARAM lParam
       return 0;
     case messageCatalogDone:
       edit([this] { editing.catalogClosed(window); });
+      return 0;
+    case messageSizeChanged:
+      edit([this] { editing.follow(window); });
       return 0;
     case WM_CLOSE:
       close();
@@ -250,6 +254,7 @@ RECT DocumentWindow::statusStrip() const { return StatusStrip::areaIn(window, me
 
 void DocumentWindow::resized(WPARAM how) {
   object.animationChanged();
+  PostMessageW(window, messageSizeChanged, 0, 0);
   if (how == SIZE_MINIMIZED) return;
   HDC dc = GetDC(window);
   layout = painter.layOut(dc, desk());

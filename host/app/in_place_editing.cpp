@@ -47,11 +47,13 @@ void InPlaceEditing::showToolbar(HWND document) {
   // The toolbar reads the model's state when it is bound, so it has to be told when there is another model.
   if (object.takeModelChange() || !control.created()) control.bind(object.automation(), document);
   const POINT wanted = corner(document);
-  const HWND toolbar = control.show(wanted);
+  toolbar = control.show(wanted);
   RECT shown;
   if (toolbar == nullptr || !GetWindowRect(toolbar, &shown)) return;
   const POINT better = keptOnScreen(wanted, shown, workArea(document));
   if (better.x != wanted.x || better.y != wanted.y) control.show(better);
+  // The keyboard stays with the document, so that Escape leaves the object.
+  SetActiveWindow(document);
 }
 
 void InPlaceEditing::begin(HWND document) {
@@ -66,11 +68,12 @@ void InPlaceEditing::end() {
   if (busy || !isActive) return;
   const Busy now(busy);
   isActive = false;
+  suspendedAt.reset();
   control.hide();
 }
 
 void InPlaceEditing::catalogClosed(HWND document) {
-  if (busy || !isActive || control.catalogVisible()) return;
+  if (busy || !isActive || suspendedAt || control.catalogVisible()) return;
   const Busy now(busy);
   showToolbar(document);
 }
@@ -79,6 +82,22 @@ void InPlaceEditing::modelReplaced(HWND document) {
   if (busy || !isActive || control.catalogVisible()) return;
   const Busy now(busy);
   showToolbar(document);
+}
+
+void InPlaceEditing::follow(HWND document) {
+  const bool gone = IsIconic(document) != FALSE;
+  if (busy || !isActive || gone == suspendedAt.has_value()) return;
+  const Busy now(busy);
+  if (gone) {
+    RECT place;
+    suspendedAt = GetWindowRect(toolbar, &place) != FALSE ? POINT{place.left, place.top} : corner(document);
+    control.hide();
+  } else {
+    // The window is still on its way back from the task bar: its own place cannot be asked for yet.
+    toolbar = control.show(usable(*suspendedAt));
+    suspendedAt.reset();
+    SetActiveWindow(document);
+  }
 }
 
 void InPlaceEditing::close() noexcept {

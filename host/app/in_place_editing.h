@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "host/app/control_client.h"
 #include "host/app/embedded_object.h"
 
@@ -21,6 +23,9 @@ class InPlaceEditing {
   /// Another model was opened.
   void modelReplaced(HWND document);
 
+  /// The document was minimised or came back: nothing of it floats on the screen meanwhile.
+  void follow(HWND document);
+
   void close() noexcept;
 
  private:
@@ -31,6 +36,8 @@ class InPlaceEditing {
   Metrics metrics;
   ControlClient control;
   bool isActive = false;
+  HWND toolbar = nullptr;
+  std::optional<POINT> suspendedAt;  ///< while the document is minimised
   bool busy = false;
 };
 
