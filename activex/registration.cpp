@@ -2,6 +2,7 @@
 
 #include <ActiveNeridaToolbar_h.h>
 
+#include <ranges>
 #include <string>
 #include <vector>
 
@@ -93,8 +94,9 @@ LONG write(HKEY base, const Entry& entry) {
   LONG status = RegCreateKeyExW(base, (classes + entry.key).c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_SET_VALUE,
                                 nullptr, key.put(), nullptr);
   if (status != ERROR_SUCCESS || (entry.text.empty() && entry.name.empty())) return status;
+  const std::size_t bytes = (entry.text.size() + 1) * sizeof(wchar_t);
   return RegSetValueExW(key.get(), entry.name.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(entry.text.c_str()),
-                        static_cast<DWORD>((entry.text.size() + 1) * sizeof(wchar_t)));
+                        static_cast<DWORD>(bytes));
 }
 
 struct Contents {
@@ -128,7 +130,7 @@ void remove(HKEY base, const Entry& entry) {
 }
 
 void remove(HKEY base, const Entries& entries) {
-  for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) remove(base, *entry);
+  for (const Entry& entry : std::views::reverse(entries)) remove(base, entry);
 }
 
 // A user has these common keys only from the first registration on.
