@@ -2,7 +2,7 @@
 
 #include <ActiveNeridaToolbar_h.h>
 
-#include <ranges>
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -130,7 +130,7 @@ void remove(HKEY base, const Entry& entry) {
 }
 
 void remove(HKEY base, const Entries& entries) {
-  for (const Entry& entry : std::views::reverse(entries)) remove(base, entry);
+  std::for_each(entries.rbegin(), entries.rend(), [base](const Entry& entry) { remove(base, entry); });
 }
 
 // A user has these common keys only from the first registration on.
