@@ -24,6 +24,7 @@ class Client:
         self.answers = queue.Queue()
         self.calls = []
         self.other_lines = []
+        self.stuck = False
         threading.Thread(target=self._read, daemon=True).start()
         self.answer(60)
 
@@ -40,9 +41,12 @@ class Client:
 
     def answer(self, timeout=10):
         """The answer to the oldest command that has none yet."""
+        if self.stuck:
+            raise TimeoutError("the client has not answered before")
         try:
             text = self.answers.get(timeout=timeout)
         except queue.Empty:
+            self.stuck = True
             raise TimeoutError(f"the client did not answer; the model was told {self.calls}") from None
         if text is None:
             raise RuntimeError("the client ended: " + "\n".join(self.other_lines))

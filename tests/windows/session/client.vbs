@@ -131,6 +131,7 @@ Sub CarryOut
     Case "visible" : Answer control.IsToolbarVisible() & " " & control.IsCatalogVisible()
     Case "set" : SetField words(1), words(2), words(3)
     Case "raise" : SetRaising words(1), words(2)
+    Case "document" : Answer MsgBox("The client's own window", 0, "Document")
     Case "release" : Set control = Nothing : Answer "released"
     Case "quit" : running = False : Answer "over"
   End Select
