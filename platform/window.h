@@ -78,7 +78,8 @@ class Window {
 class WindowFactory {
  public:
   virtual ~WindowFactory() = default;
-  // Creates the window with all its controls, hidden. Errors: 7 when the system cannot create one.
+  // Creates the window with all its controls, hidden. Errors: 7 when the system cannot create one; that may come out
+  // only when the window or one of its controls is first used.
   virtual std::shared_ptr<Window> create(const FormLayout& layout) = 0;
 };
 

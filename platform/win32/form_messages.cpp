@@ -32,8 +32,13 @@ LRESULT FormWindow::runHook(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void FormWindow::hook(WindowProcedure procedure) {
-  if (hooked || hwnd == nullptr) return;
+  const bool isGone = isRealized && hwnd == nullptr;
+  if (hooked || isGone) return;
   hooked = std::make_shared<const WindowProcedure>(std::move(procedure));
+  if (isRealized) installHook();
+}
+
+void FormWindow::installHook() {
   const auto front = reinterpret_cast<LONG_PTR>(hookProcedure);
   if (GetWindowLongPtrW(hwnd, GWLP_WNDPROC) == front) return;  // still there: see unhook
   const LONG_PTR previous = SetWindowLongPtrW(hwnd, GWLP_WNDPROC, front);
@@ -45,6 +50,7 @@ void FormWindow::hook(WindowProcedure procedure) {
 void FormWindow::unhook() {
   if (!hooked) return;
   hooked.reset();
+  if (hwnd == nullptr) return;
   if (GetWindowLongPtrW(hwnd, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(hookProcedure)) {
     SetWindowLongPtrW(hwnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(behindHook));
   }
@@ -59,6 +65,17 @@ std::intptr_t FormWindow::callPrevious(const Message& message) {
 NativeControl* FormWindow::controlOf(HWND window) const {
   for (const auto& control : controls) {
     if (window != nullptr && control->window() == window) return control.get();
+  }
+  return nullptr;
+}
+
+// Asked of our own table instead of the system, which would take longer for it than for all the rest of a press.
+const NativeControl* FormWindow::controlAt(POINT point) const {
+  RECT client = {};
+  if (!GetClientRect(hwnd, &client) || !PtInRect(&client, point)) return nullptr;
+  for (const auto& control : controls) {
+    const RECT area = control->area();
+    if (control->isShown() && PtInRect(&area, point)) return control.get();
   }
   return nullptr;
 }

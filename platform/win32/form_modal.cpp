@@ -26,7 +26,7 @@ void FormWindow::centre() {
 }
 
 void FormWindow::showModal() {
-  if (modal || hwnd == nullptr) return;
+  if (modal || realized() == nullptr) return;
   const ModuleLock lock;
   const Use use(*this);
   centre();

@@ -59,22 +59,38 @@ std::unique_ptr<NativeControl> makeControl(FormWindow& form, const ControlLayout
 }  // namespace
 
 FormWindow::FormWindow(const FormLayout& layout)
-    : frame(layout.frame), screenScale(Scale::ofScreen()), messageFont(createMessageFont()) {
+    : layout(layout), frame(layout.frame), screenScale(Scale::ofScreen()), messageFont(createMessageFont()) {}
+
+HWND FormWindow::realized() const {
+  if (!isRealized) const_cast<FormWindow*>(this)->realize();  // no form is made constant
+  return hwnd;
+}
+
+void FormWindow::realize() {
   const FrameStyle style = styleOf(frame);
   RECT outer = {0, 0, screenScale.pixelsX(layout.width), 0};
   AdjustWindowRectEx(&outer, style.style, FALSE, style.extended);
+  isRealized = true;
   CreateWindowExW(style.extended, formClass, wide(layout.caption).c_str(), style.style | WS_CLIPCHILDREN, 0, 0,
                   outer.right - outer.left, screenScale.pixelsY(layout.height), nullptr, nullptr, moduleInstance(),
                   this);
-  if (hwnd == nullptr) throw Error(error::outOfMemory);
   try {
+    if (hwnd == nullptr) throw Error(error::outOfMemory);
     tips.emplace(hwnd);
     createControls(layout.controls);
   } catch (...) {
-    dying = true;
-    DestroyWindow(hwnd);
+    discardWindows();
     throw;
   }
+  if (hooked) installHook();
+}
+
+// A later attempt starts from nothing.
+void FormWindow::discardWindows() {
+  tips.reset();
+  if (hwnd != nullptr) DestroyWindow(hwnd);
+  controls.clear();
+  isRealized = false;
 }
 
 FormWindow::~FormWindow() {
@@ -105,11 +121,11 @@ void FormWindow::dispose() {
 
 bool FormWindow::isVisible() const { return hwnd != nullptr && IsWindowVisible(hwnd) != FALSE; }
 
-void FormWindow::setCaption(const std::string& text) { SetWindowTextW(hwnd, wide(text).c_str()); }
+void FormWindow::setCaption(const std::string& text) { SetWindowTextW(realized(), wide(text).c_str()); }
 
 void FormWindow::setHeight(Twips height) {
   RECT outer = {};
-  GetWindowRect(hwnd, &outer);
+  GetWindowRect(realized(), &outer);
   SetWindowPos(hwnd, nullptr, 0, 0, outer.right - outer.left, screenScale.pixelsY(height),
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   leaveUnreachableFocus();
@@ -117,31 +133,32 @@ void FormWindow::setHeight(Twips height) {
 
 Size FormWindow::sizeInPixels() const {
   RECT outer = {};
-  GetWindowRect(hwnd, &outer);
+  GetWindowRect(realized(), &outer);
   return {outer.right - outer.left, outer.bottom - outer.top};
 }
 
 Point FormWindow::position() const {
   RECT outer = {};
-  GetWindowRect(hwnd, &outer);
+  GetWindowRect(realized(), &outer);
   return {outer.left, outer.top};
 }
 
 Point FormWindow::clientOrigin() const {
   POINT origin = {};
-  ClientToScreen(hwnd, &origin);
+  ClientToScreen(realized(), &origin);
   return {origin.x, origin.y};
 }
 
 void FormWindow::showTopmostAt(Point topLeft) {
-  SetWindowPos(hwnd, HWND_TOPMOST, topLeft.x, topLeft.y, 0, 0, SWP_NOSIZE | SWP_SHOWWINDOW);
+  SetWindowPos(realized(), HWND_TOPMOST, topLeft.x, topLeft.y, 0, 0, SWP_NOSIZE | SWP_SHOWWINDOW);
 }
 
 void FormWindow::showTopmost() {
-  SetWindowPos(hwnd, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_SHOWWINDOW);
+  SetWindowPos(realized(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_SHOWWINDOW);
 }
 
 void FormWindow::hide() {
+  if (hwnd == nullptr) return;
   const Use use(*this);
   if (menuOpen) EndMenu();
   if (tips) tips->hide();
@@ -152,16 +169,18 @@ void FormWindow::hide() {
 int FormWindow::popUpMenuRightAligned(std::span<const char* const> captions, Twips x, Twips y) {
   const ModuleLock lock;
   const Use use(*this);
+  const HWND owner = realized();
   POINT corner = {screenScale.pixelsX(x), screenScale.pixelsY(y)};
-  ClientToScreen(hwnd, &corner);
+  ClientToScreen(owner, &corner);
   menuOpen = true;
-  const int chosen = trackPopupMenu(hwnd, captions, corner);
+  const int chosen = trackPopupMenu(owner, captions, corner);
   menuOpen = false;
   return disposed ? -1 : chosen;
 }
 
 template <class Interface>
 Interface& FormWindow::find(const std::string& name, int index) {
+  realized();
   for (const auto& control : controls) {
     if (name != control->layout().name || index != control->layout().index) continue;
     if (auto* found = dynamic_cast<Interface*>(control.get())) return *found;

@@ -18,15 +18,17 @@
 
 namespace nerida {
 
-// A form and its controls. It is destroyed by dispose, at once or, from inside one of its own messages, when the
-// outermost of them has returned; from then on it is hidden and raises nothing.
+// A form and its controls. The system's windows are made when one of them is first needed: some forms are never looked
+// at, and a top-level window costs the system more than all else that a start does. The form is destroyed by dispose,
+// at once or, from inside one of its own messages, when the outermost of them has returned; from then on it is hidden
+// and raises nothing.
 class FormWindow final : public Window {
  public:
   explicit FormWindow(const FormLayout& layout);
   ~FormWindow() override;
   void dispose();
 
-  WindowHandle handle() const override { return reinterpret_cast<WindowHandle>(hwnd); }
+  WindowHandle handle() const override { return reinterpret_cast<WindowHandle>(realized()); }
   bool isVisible() const override;
   void setCaption(const std::string& text) override;
   void setHeight(Twips height) override;
@@ -54,6 +56,8 @@ class FormWindow final : public Window {
   const Scale& scale() const { return screenScale; }
   BackBuffer& backBuffer() { return buffer; }
   Tooltips& tooltips() { return *tips; }
+  // The topmost control at a point of the client area.
+  const NativeControl* controlAt(POINT point) const;
   bool showsFocus() const { return focusShown; }
   void setShowsFocus(bool shows);
   // Tab, Shift+Tab and Escape; true when the key has been used up.
@@ -95,6 +99,11 @@ class FormWindow final : public Window {
     FormWindow& form;
   };
 
+  // The system's window, made if there has been none yet. Error 7 when there can be none.
+  HWND realized() const;
+  void realize();
+  void discardWindows();
+  void installHook();
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT runHook(UINT message, WPARAM wParam, LPARAM lParam);
   void paintOutline();
@@ -109,6 +118,8 @@ class FormWindow final : public Window {
   template <class Interface>
   Interface& find(const std::string& name, int index);
 
+  const FormLayout layout;
+  bool isRealized = false;
   const FormFrame frame;
   const WindowClasses classes;
   const Scale screenScale;

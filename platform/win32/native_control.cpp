@@ -51,10 +51,11 @@ void NativeControl::show(bool visible) {
   ShowWindow(handle, visible ? SW_SHOWNA : SW_HIDE);
 }
 
+RECT NativeControl::area() const { return parent.scale().pixels(place.bounds); }
+
 bool NativeControl::isReachable(POINT point) const {
-  if (!shown || handle == nullptr) return false;
-  MapWindowPoints(handle, parent.window(), &point, 1);
-  return ChildWindowFromPointEx(parent.window(), point, CWP_SKIPINVISIBLE | CWP_SKIPDISABLED) == handle;
+  const RECT at = area();
+  return handle != nullptr && parent.controlAt({at.left + point.x, at.top + point.y}) == this;
 }
 
 void NativeControl::detach() { handle = nullptr; }

@@ -28,6 +28,7 @@ class NativeControl {
 
   void show(bool visible);
   bool isShown() const { return shown; }
+  RECT area() const;  // pixels of the form's client area
 
   virtual LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
   virtual void onCommand(WORD notification);  // from the control's own window, through the form
