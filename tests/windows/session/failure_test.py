@@ -3,7 +3,7 @@
 import tempfile
 from pathlib import Path
 
-from session_case import SessionCase, desktop, installation, main, programs, wait_for
+from session_case import SessionCase, desktop, installation, main, programs
 
 BOX = "#32770"
 ERROR = ("Zephra has encountered an error.  Please de-activate Zephra by clicking off the object.  "
@@ -31,7 +31,7 @@ class Raising(SessionCase):
         box, seen = self.message()
         self.picture(f"message-{number}")
         self.assertEqual(("Zephra Toolbar", text), seen)
-        wait_for(lambda: self.probe.ask("foreground") == box["window"], what="the message in front")
+        self.waitForFront(box)
         desktop.key("Return")
         self.probe.gone(class_name=BOX)
         self.assertTold(*told)
@@ -54,12 +54,17 @@ class Raising(SessionCase):
         rect = self.probe.element(self.toolbar, "Select a new LookStyle")["rect"]
         desktop.click((rect[2] - 8, (rect[1] + rect[3]) // 2))
         self.probe.window(class_name="ComboLBox")
-        desktop.key("Down", "Return")
-        _, seen = self.message()
+        desktop.key("Down")
+        box, seen = self.message()
+        self.waitForFront(box)
+        self.picture("message-style")
         self.assertEqual(("Zephra Toolbar", ERROR), seen)
         desktop.key("Return")
         self.probe.gone(class_name=BOX)
         self.assertTold("LookStyle := String Clay")
+        self.client.forget()
+        desktop.key("Escape")
+        self.assertNothingTold()
 
 
 class Resources(SessionCase):

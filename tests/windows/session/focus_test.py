@@ -16,6 +16,7 @@ class Focus(SessionCase):
         super().setUp()
         self.client.send("document")
         self.document = self.probe.window("Document")
+        self.waitForFront(self.document)
         self.unfold()
         self.client.calls.clear()
         self.click("Nudge up")
@@ -24,12 +25,13 @@ class Focus(SessionCase):
 
     def end_document(self):
         desktop.click(self.document_point())
+        self.waitForFront(self.document)
         desktop.key("Return")
         self.client.answer()
 
     def document_point(self):
-        left, top, _, _ = self.probe.describe(self.document)["rect"]
-        return left + 12, top + 12
+        left, _, _, bottom = self.probe.describe(self.document)["rect"]
+        return left + 20, bottom - 15
 
     def bar(self):
         return self.probe.describe(self.toolbar)

@@ -85,6 +85,9 @@ class SessionCase(unittest.TestCase):
     def waitForState(self, name, bit, value=True):
         wait_for(lambda: bool(self.button(name)["state"] & bit) == value, what=f"state {bit:#x} of {name}")
 
+    def waitForFront(self, window):
+        wait_for(lambda: self.probe.ask("foreground") == window["window"], what=f"{window['title']!r} in front")
+
     def picture(self, name):
         left, top, right, bottom = self.probe.describe(self.toolbar)["rect"]
         desktop.picture(SCREENS / f"{name}.png", (left - 80, top - 20, right + 20, bottom + 150))

@@ -77,6 +77,7 @@ class Showing(SessionCase):
             box = None
         if box:
             self.assertIn(LOW_MEMORY, [e["name"] for e in self.probe.elements(box)])
+            self.waitForFront(box)
             desktop.key("Return")
             self.probe.gone(class_name="#32770")
         self.client.answer()
