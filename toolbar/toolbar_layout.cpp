@@ -10,7 +10,7 @@ constexpr Bounds at(std::int32_t left, std::int32_t top, std::int32_t width, std
 }
 
 constexpr std::int32_t row1 = 0;
-constexpr std::int32_t row2 = 405;  // what unfolding adds to the window's height
+constexpr std::int32_t row2 = 435;  // below the folded window's lower edge at every screen resolution
 constexpr std::int32_t barHeight = 375;
 
 constexpr std::int32_t button = 375;  // width of a button without a caption

@@ -60,6 +60,7 @@ void SystemComboBox::select(int index) {
 }
 
 void SystemComboBox::onCommand(WORD notification) {
+  if (notification == CBN_DROPDOWN) form().tooltips().hide();  // it would lie over the open list
   if (notification != CBN_SELCHANGE) return;
   const int chosen = static_cast<int>(send(CB_GETCURSEL));
   if (chosen == current) return;

@@ -85,8 +85,8 @@ TEST_F(Library, CheckNamesDamagedMissingAndSurplusFiles) {
   fs::copy_file(folder / "dv3.twe", folder / "dv4.twe");
   const std::vector<std::string> faults = checkLibrary(models());
   ASSERT_EQ(faults.size(), 3U);
-  EXPECT_EQ(faults[0].rfind("dv0000/dv0000/dv0000/dv1.twe: it is not binary glTF 2.0", 0), 0U) << faults[0];
-  EXPECT_EQ(faults[1], "dv0000/dv0000/dv0000/dv2.twe: it cannot be read");
+  EXPECT_EQ(faults[0].rfind("dv0000/dv0000/dv0000/dv1.twe: The model file is cut off.", 0), 0U) << faults[0];
+  EXPECT_EQ(faults[1], "dv0000/dv0000/dv0000/dv2.twe: The model file cannot be found.");
   EXPECT_EQ(faults[2], "dv0000/dv0000/dv0000/dv4.twe: it is not in the index");
 }
 
