@@ -106,6 +106,16 @@ TEST_F(ControlDispose, FromInsideItselfUnloadsEveryFormOnce) {
                                          "frmSurfaceColors: unload", "frmBrowser: unload", "frmLighting: unload"));
 }
 
+TEST_F(ControlDispose, FromInsideItselfSavesTheColoursOnce) {
+  show();
+  model->hooks["IsToolbarShowing"] = [this] {
+    control->ToolbarDispose();
+    platform.settings.texts.clear();
+  };
+  control->ToolbarDispose();
+  EXPECT_TRUE(platform.settings.texts.empty());
+}
+
 TEST_F(ControlDispose, KeepsAToolbarThatTheModelBroughtBackMeanwhile) {
   show();
   model->hooks["IsToolbarShowing"] = [this] {

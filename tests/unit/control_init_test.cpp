@@ -132,6 +132,23 @@ TEST_F(ControlInit, DisposingFromInsideEndsTheRepeating) {
   EXPECT_EQ(init(), 5);
 }
 
+class DisposingMember : public testing::TestWithParam<const char*>, protected Desk {};
+
+TEST_P(DisposingMember, EndsTheInitQuietlyAndBringsNoWindowBack) {
+  create();
+  model->values["AnimationFrameCount"] = std::int32_t{3};
+  model->hooks[GetParam()] = [this] { control->ToolbarDispose(); };
+  init();
+  EXPECT_THAT(takeBoxes(), testing::IsEmpty());
+  EXPECT_TRUE(platform.windows.living.empty());
+  EXPECT_EQ(library.state.gModelObject, nullptr);
+}
+
+INSTANTIATE_TEST_SUITE_P(Members, DisposingMember,
+                         testing::Values("GetLookStyleList", "InterfaceFlags", "AnimationFrameCount",
+                                         "AnimationCurrentFrame", "ModelName", "LookStyleName", "IsToolbarShowing",
+                                         "RefreshDisplay", "IsCatalogShowing"));
+
 TEST_F(ControlInit, RebindsToAnotherModel) {
   init();
   const auto other = std::make_shared<headless::ScriptedObject>(platform.transcript);
