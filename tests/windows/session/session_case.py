@@ -21,6 +21,7 @@ def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("--arch", default="x86")
     parser.add_argument("--build", type=Path, required=True, help="the build tree of the programs")
+    parser.add_argument("--models", type=Path, default=ROOT / "dist" / "x86" / "Models", help="a library of models")
     options, rest = parser.parse_known_args()
     programs.arch = options.arch
     programs.control = options.build / "activex" / "ActiveNeridaToolbar.ocx"
@@ -28,6 +29,7 @@ def main():
     programs.script_host = options.build / "tests" / "windows" / "com" / "script_host.exe"
     programs.host = options.build / "host" / "app" / "zephra-host.exe"
     programs.probe = options.build / "tools" / "ui_probe" / "ui-probe.exe"
+    programs.models = options.models
     installation.register(programs.control, programs.arch)
     installation.set_paths(programs.resources)
     unittest.main(argv=[sys.argv[0], *rest], verbosity=2)

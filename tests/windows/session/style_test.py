@@ -1,11 +1,16 @@
 """The style group: which of its controls a model gets, the list of styles, and the animation indicator."""
 
-from session_case import SessionCase, desktop, main, wait_for
+import itertools
+
+from session_case import SessionCase, desktop, main
 
 LIST = "Select a new LookStyle"
 # What taking over the model's state asks of it.
 INIT_SELF = ["InterfaceFlags", "AnimationFrameCount", "ModelName", "LookStyleName", "IsToolbarShowing"]
 STYLE_BUTTONS = {"Line Thickness": 16, "Line Color": 2, "Fill Color": 1}
+
+
+SPOTS = itertools.count()
 
 
 class Offers(SessionCase):
@@ -47,8 +52,9 @@ class StyleList(SessionCase):
         super().setUp()
 
     def list_place(self):
-        rect = self.probe.element(self.toolbar, LIST)["rect"]
-        return rect[2] - 8, (rect[1] + rect[3]) // 2
+        """Another spot each time: a second click on the same one would be the second half of a double click."""
+        left, top, right, bottom = self.probe.element(self.toolbar, LIST)["rect"]
+        return left + 10 + 10 * next(SPOTS), (top + bottom) // 2
 
     def opened(self):
         desktop.click(self.list_place())
