@@ -14,6 +14,12 @@ namespace nerida::headless {
 
 // A whole headless side, with one transcript.
 struct HeadlessPlatform {
+  HeadlessPlatform() {
+    screen.ownClientCorner = [this](WindowHandle handle) { return windows.clientCornerOf(handle); };
+  }
+  HeadlessPlatform(const HeadlessPlatform&) = delete;
+  HeadlessPlatform& operator=(const HeadlessPlatform&) = delete;
+
   Transcript transcript;
   Screen screen{transcript};
   Windows windows{transcript};

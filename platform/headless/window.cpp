@@ -29,10 +29,15 @@ FormWindow::FormWindow(Windows& windows, const FormLayout& layout, WindowHandle 
   note("load");
 }
 
-FormWindow::~FormWindow() {
+// The system's window, too, goes without a further event. The object stays with the others that have gone: it may be
+// inside one of its own events.
+void FormWindow::dispose() {
   if (windows.active == this) windows.active = nullptr;
   std::erase(windows.living, this);
+  visible = false;
+  disposed = true;
   note("unload");
+  windows.gone.emplace_back(this);
 }
 
 void FormWindow::createControls() {
@@ -87,11 +92,11 @@ void FormWindow::setVisible(bool value) {
   visible = value;
   if (value) {
     FormWindow* before = std::exchange(windows.active, this);
-    if (before && before != this && before->deactivated) before->deactivated();
-    if (before != this && activated) activated();
+    if (before && before != this) before->raise(before->deactivated);
+    if (before != this) raise(activated);
   } else if (windows.active == this) {
     windows.active = nullptr;
-    if (deactivated) deactivated();
+    raise(deactivated);
   }
 }
 
@@ -152,18 +157,19 @@ int FormWindow::popUpMenuRightAligned(std::span<const char* const> captions, Twi
   return choice;
 }
 
-void FormWindow::userCloses() {
-  if (closeRequested) closeRequested();
+void FormWindow::raise(const std::function<void()>& event) {
+  if (!disposed && event) event();
 }
 
-void FormWindow::userClicks() {
-  if (clicked) clicked();
-}
+void FormWindow::userCloses() { raise(closeRequested); }
+
+void FormWindow::userClicks() { raise(clicked); }
 
 std::shared_ptr<Window> Windows::create(const FormLayout& layout) {
   const auto failure = creationFailures.find(layout.name);
   if (failure != creationFailures.end()) throw Error(failure->second);
-  return std::make_shared<FormWindow>(*this, layout, nextHandle++);
+  auto form = std::make_unique<FormWindow>(*this, layout, nextHandle++);
+  return {form.release(), [](FormWindow* leaving) { leaving->dispose(); }};
 }
 
 FormWindow* Windows::find(const std::string& name) const {
@@ -171,6 +177,13 @@ FormWindow* Windows::find(const std::string& name) const {
     if (name == window->layout.name) return window;
   }
   return nullptr;
+}
+
+std::optional<Point> Windows::clientCornerOf(WindowHandle handle) const {
+  for (const FormWindow* window : living) {
+    if (window->handle() == handle) return window->clientOrigin();
+  }
+  return std::nullopt;
 }
 
 void Windows::activateApplication(bool activeNow) {
