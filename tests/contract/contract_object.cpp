@@ -66,7 +66,7 @@ class ContractObject : public IDispatch {
 
   STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
                       EXCEPINFO* exception, UINT* refused) override {
-    const VARIANTARG* arguments = parameters->rgvarg;
+    VARIANTARG* arguments = parameters->rgvarg;
     *refused = 0;
     switch (id) {
       case name:
