@@ -7,7 +7,7 @@ from pathlib import Path
 from session_case import SCREENS, desktop, main, programs, wait_for
 
 from tools.session.host import Host
-from tools.session.probe import PUSH_BUTTON, Probe
+from tools.session.probe import HOT, PUSH_BUTTON, Probe
 
 TITLE = "Zephra Document"
 TOOLBAR = "Zephra Toolbar"
@@ -46,7 +46,14 @@ class Document(unittest.TestCase):
         wait_for(lambda: self.probe.ask("foreground") == self.document["window"], what="the keyboard in the document")
 
     def press(self, name):
-        desktop.click(desktop.centre(self.probe.element(self.toolbar, name, PUSH_BUTTON)["rect"]))
+        """A window just shown is not at once under the pointer: the button lights up when it is."""
+        place = desktop.centre(self.button(name)["rect"])
+        desktop.move(place)
+        wait_for(lambda: self.button(name)["state"] & HOT, what=f"{name} under the pointer")
+        desktop.click(place)
+
+    def button(self, name):
+        return self.probe.element(self.toolbar, name, PUSH_BUTTON)
 
     def object_picture(self):
         x, y = self.object_centre()

@@ -73,6 +73,9 @@ class SessionCase(unittest.TestCase):
 
     def unfold(self):
         if self.height() != 76:
+            desktop.move((900, 700))
+            desktop.move(self.at("Model Orientation"))
+            self.waitForState("Model Orientation", HOT)  # a window just shown is not at once under the pointer
             self.click("Model Orientation")
             wait_for(lambda: self.height() == 76, what="the movement groups")
 
