@@ -74,6 +74,7 @@ class SystemButtonBar final : public ControlOf<ButtonBar> {
   void announce(DWORD event, int index) const;
 
   // Mouse and keyboard.
+  void offerTooltip(POINT point);
   void onMouseMove(POINT point);
   void onMouseLeave();
   void onButtonDown(POINT point);

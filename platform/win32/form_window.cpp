@@ -101,6 +101,7 @@ FormWindow::~FormWindow() {
 
 // Pictures lie over the other controls, wherever they stand in the layout: the first child is the topmost.
 void FormWindow::createControls(std::span<const ControlLayout> rows) {
+  controls.reserve(rows.size());  // a control that has its window must find its place
   for (const ControlLayout& row : rows) {
     if (row.kind == ControlKind::pictureBox) controls.push_back(makeControl(*this, row));
   }

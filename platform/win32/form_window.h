@@ -134,6 +134,7 @@ class FormWindow final : public Window {
 
   std::shared_ptr<const WindowProcedure> hooked;
   WNDPROC behindHook = nullptr;
+  bool inChain = false;  // of the window's procedures, hooked or not
 
   bool modal = false;
   std::vector<HWND> disabledForModal;

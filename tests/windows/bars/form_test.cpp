@@ -93,6 +93,51 @@ TEST_F(Forms, LetAHookTakeItselfOffAndStillPassOn) {
   EXPECT_FALSE(form->isHooked());
 }
 
+WNDPROC behindStranger = nullptr;
+
+LRESULT CALLBACK strangersProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  return CallWindowProcW(behindStranger, window, message, wParam, lParam);
+}
+
+WNDPROC setProcedure(HWND window, WNDPROC procedure) {
+  return reinterpret_cast<WNDPROC>(SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
+}
+
+// A stranger that came after the first hook calls us: a second place in front of it would send messages in a circle.
+TEST_F(Forms, HookAgainBehindAStrangerThatCameBetween) {
+  int seen = 0;
+  const auto count = [&](const Message& message) {
+    ++seen;
+    return form->callPrevious(message);
+  };
+  form->hook(count);
+  behindStranger = setProcedure(window(), strangersProcedure);
+  form->unhook();
+  form->hook(count);
+  SendMessageW(window(), WM_NULL, 0, 0);
+  EXPECT_EQ(seen, 1);
+  form->unhook();
+  setProcedure(window(), behindStranger);
+  SendMessageW(window(), WM_NULL, 0, 0);
+  EXPECT_EQ(seen, 1);
+}
+
+// A stranger that came before the hook takes the hook off with itself when it leaves by what it had found.
+TEST_F(Forms, HookAgainAfterAStrangerHasCutTheHookOff) {
+  int seen = 0;
+  const auto count = [&](const Message& message) {
+    ++seen;
+    return form->callPrevious(message);
+  };
+  const auto own = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(window(), GWLP_WNDPROC));
+  form->hook(count);
+  setProcedure(window(), own);
+  form->unhook();
+  form->hook(count);
+  SendMessageW(window(), WM_NULL, 0, 0);
+  EXPECT_EQ(seen, 1);
+}
+
 TEST_F(Forms, KnowWhileTheApplicationLosesTheFocus) {
   std::vector<bool> seen;
   form->hook([&](const Message& message) -> std::intptr_t {
