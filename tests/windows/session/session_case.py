@@ -11,7 +11,7 @@ sys.path.insert(0, str(ROOT))
 from tests.windows.session import installation  # noqa: E402
 from tests.windows.session.client import Client  # noqa: E402
 from tools.session import desktop  # noqa: E402
-from tools.session.probe import HOT, PRESSED, PUSH_BUTTON, Probe, wait_for  # noqa: E402
+from tools.session.probe import HOT, PRESSED, PUSH_BUTTON, UNAVAILABLE, Probe, wait_for  # noqa: E402
 
 SCREENS = ROOT / "out" / "screens"
 programs = argparse.Namespace()
