@@ -1,5 +1,6 @@
 #include "platform/win32/form_window.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "platform/error.h"
@@ -77,6 +78,7 @@ void FormWindow::realize() {
   try {
     if (hwnd == nullptr) throw Error(error::outOfMemory);
     tips.emplace(hwnd);
+    fitRows();
     createControls(layout.controls);
   } catch (...) {
     discardWindows();
@@ -97,6 +99,26 @@ FormWindow::~FormWindow() {
   dying = true;
   tips.reset();
   if (hwnd != nullptr) DestroyWindow(hwnd);
+}
+
+// The height of the whole window is fixed, and the desktop's captions take more or less of it. Where they take too
+// much, the rows move together, so that what begins in sight also ends there.
+void FormWindow::fitRows() {
+  RECT client = {};
+  GetClientRect(hwnd, &client);
+  if (frame != FormFrame::toolWindow || client.bottom <= 0) return;
+  rowsHave = rowsNeed = client.bottom;
+  for (const ControlLayout& row : layout.controls) {
+    const RECT at = screenScale.pixels(row.bounds);
+    if (at.top < client.bottom) rowsNeed = std::max<int>(rowsNeed, at.bottom);
+  }
+}
+
+RECT FormWindow::place(const Bounds& bounds) const {
+  RECT at = screenScale.pixels(bounds);
+  at.top = MulDiv(at.top, rowsHave, rowsNeed);
+  at.bottom = MulDiv(at.bottom, rowsHave, rowsNeed);
+  return at;
 }
 
 // Pictures lie over the other controls, wherever they stand in the layout: the first child is the topmost.

@@ -56,6 +56,8 @@ class FormWindow final : public Window {
   const Scale& scale() const { return screenScale; }
   BackBuffer& backBuffer() { return buffer; }
   Tooltips& tooltips() { return *tips; }
+  // Where a part of the layout lies on the form, in pixels of its client area.
+  RECT place(const Bounds& bounds) const;
   // The topmost control at a point of the client area.
   const NativeControl* controlAt(POINT point) const;
   bool showsFocus() const { return focusShown; }
@@ -110,6 +112,7 @@ class FormWindow final : public Window {
   void onActivate(bool active);
   void rememberFocus();
   void moveFocus(const NativeControl* from, bool backward);
+  void fitRows();
   void createControls(std::span<const ControlLayout> rows);
   NativeControl* controlOf(HWND window) const;
   void leaveUnreachableFocus();
@@ -128,6 +131,8 @@ class FormWindow final : public Window {
   std::vector<std::unique_ptr<NativeControl>> controls;
   HWND hwnd = nullptr;
   std::optional<Tooltips> tips;
+  int rowsNeed = 1;  // pixels that the rows in sight were laid out for, and pixels that there are
+  int rowsHave = 1;
   HWND lastFocus = nullptr;
   bool focusShown = false;
   bool clickStarted = false;

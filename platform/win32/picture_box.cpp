@@ -14,9 +14,14 @@ SystemPictureBox::SystemPictureBox(FormWindow& owner, const ControlLayout& row) 
 
 void SystemPictureBox::repaint() { InvalidateRect(window(), nullptr, TRUE); }
 
+// The drawing keeps its size; where the box is lower than it was laid out, its middle is seen.
 void SystemPictureBox::draw(HDC target) {
+  const int lost = form().scale().pixelsY(layout().bounds.height) - static_cast<int>(size().cy);
+  POINT origin = {};
+  OffsetViewportOrgEx(target, 0, -lost / 2, &origin);
   SystemCanvas canvas(target, form().scale());
   form().raise(paint, static_cast<Canvas&>(canvas));
+  SetViewportOrgEx(target, origin.x, origin.y, nullptr);
 }
 
 LRESULT SystemPictureBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
