@@ -60,9 +60,7 @@ class HeadlessSubject : public Subject {
     return std::ranges::any_of(platform.windows.living, [&](FormWindow* form) { return form->handle() == window; });
   }
 
-  void storeText(const std::string& name, const std::string& text) override {
-    storeBytes(name, text + '\0');
-  }
+  void storeText(const std::string& name, const std::string& text) override { storeBytes(name, text + '\0'); }
 
   void storeBytes(const std::string& name, const std::string& bytes) override {
     auto& values = platform.registry.keys[keyPath()];

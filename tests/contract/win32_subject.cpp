@@ -139,8 +139,8 @@ class Win32Subject : public Subject {
     HKEY key = nullptr;
     RegCreateKeyExW(HKEY_LOCAL_MACHINE, registryPath.c_str(), 0, nullptr, 0, KEY_SET_VALUE | KEY_WOW64_32KEY, nullptr,
                     &key, nullptr);
-    const LSTATUS status = RegSetValueExW(key, wide(name).c_str(), 0, type, static_cast<const BYTE*>(data),
-                                          static_cast<DWORD>(size));
+    const LSTATUS status =
+        RegSetValueExW(key, wide(name).c_str(), 0, type, static_cast<const BYTE*>(data), static_cast<DWORD>(size));
     RegCloseKey(key);
     if (status != ERROR_SUCCESS) throw std::runtime_error("the test's registry key cannot be written");
   }
