@@ -10,6 +10,7 @@ namespace nerida {
 struct PencilShader {
   Lamp lamp;
   Vec3 paper, lead;
+  float tint = 0;  ///< how much of the surface's colour lies under the hatching
   float unit = 1;  ///< pixels between hatches grow with the picture
   ToneEncoder encode{};
   const Sheet& tooth = paperGrain();
@@ -25,7 +26,7 @@ struct PencilShader {
     float lines = hatch(p.x + p.y + shake, dark * 1.25F - 0.12F);
     lines = std::max(lines, hatch(p.x - p.y * 0.55F - shake, dark * 1.5F - 0.72F));
     lines = std::max(lines, 0.35F * dark * dark);
-    return mix(mix(paper, p.color, 0.16F), lead, std::min(lines * rough, 0.92F));
+    return mix(mix(paper, p.color, tint), lead, std::min(lines * rough, 0.92F));
   }
 
  private:
@@ -57,7 +58,7 @@ struct ChalkShader {
     const float stroke = softGrain((p.x + p.y) * 0.02F / unit, (p.x - p.y) * 0.30F / unit);
     const float pressure = 1.15F * light - 0.16F + 0.55F * (stroke - 0.5F);
     const float chalk = std::clamp(pressure * (1.4F - 0.95F * tooth(x, y)), 0.06F, 0.95F);
-    return mix(wiped(x, y), mix(p.color, {0.90F, 0.90F, 0.86F}, 0.30F), chalk);
+    return mix(wiped(x, y), mix(p.color, {0.90F, 0.90F, 0.86F}, 0.22F), chalk);
   }
 
  private:
@@ -75,6 +76,7 @@ struct WatercolorShader {
   float unit = 1;  ///< washes grow with the picture
   ToneEncoder encode{};
   const Sheet& tooth = paperGrain();
+  float body = 1 - brightnessOf(paper);  ///< dark paper takes a ground of white first, as no wash would be seen on it
 
   [[nodiscard]] std::uint32_t background(int x, int y) const { return encode(rough(x, y)); }
 
@@ -87,7 +89,8 @@ struct WatercolorShader {
     const float pigment = 0.68F + 0.35F * flow + 0.30F * side * side + 0.28F * layer(light, 0.78F);
     const float shade = 0.60F * layer(light, 0.40F) + 0.12F * std::max(0.0F, -flow);
     const Vec3 washed = mix({1, 1, 1}, p.color, std::clamp(pigment, 0.2F, 1.0F));
-    return rough(static_cast<int>(p.x), static_cast<int>(p.y)) * mix(washed, washed * Vec3{0.42F, 0.44F, 0.62F}, shade);
+    const Vec3 sheet = mix(rough(static_cast<int>(p.x), static_cast<int>(p.y)), {1, 1, 1}, body);
+    return sheet * mix(washed, washed * Vec3{0.42F, 0.44F, 0.62F}, shade);
   }
 
  private:

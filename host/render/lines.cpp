@@ -150,7 +150,8 @@ class LineDrawer {
       const float t = run != 0 ? (place - start) / run : 0;
       return Vec2{from.x + (to.x - from.x) * t, from.y + (to.y - from.y) * t};
     };
-    for (float place = std::floor(first / (2 * dash)) * 2 * dash; place < last; place += 2 * dash) {
+    for (int i = static_cast<int>(std::floor(first / (2 * dash))); static_cast<float>(i) * 2 * dash < last; ++i) {
+      const float place = static_cast<float>(i) * 2 * dash;
       const float begin = std::max(place, first), end = std::min(place + dash, last);
       if (begin < end) stroke(frame, at(begin), at(end), pen);
     }

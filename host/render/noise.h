@@ -40,7 +40,8 @@ class Sheet {
   }
 
   [[nodiscard]] float operator()(int x, int y) const {
-    return values[static_cast<std::size_t>((y & (side - 1)) * side + (x & (side - 1)))];
+    const auto column = static_cast<std::size_t>(x & (side - 1)), line = static_cast<std::size_t>(y & (side - 1));
+    return values[line * side + column];
   }
 
   static constexpr int side = 256;

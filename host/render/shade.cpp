@@ -195,7 +195,7 @@ void shadeSurfaces(const Mesh& mesh, const Look& look, Frame& frame, Picture& ta
     case Shading::blueprint:
       return paint(BlueprintShader{lamp, paper, ink, std::max(8, static_cast<int>(24 * unit))});
     case Shading::pencil:
-      return paint(PencilShader{lamp, paper, ink, unit});
+      return paint(PencilShader{lamp, paper, ink, look.surface ? 0.6F : 0.16F, unit});
     case Shading::chalk:
       return paint(ChalkShader{lamp, paper, unit});
     case Shading::watercolor:

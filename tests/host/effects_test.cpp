@@ -80,6 +80,24 @@ TEST(Effects, linesTakeTheirColor) {
   EXPECT_TRUE(found);
 }
 
+TEST(Effects, surfacesShowTheirColorOnADarkGroundToo) {
+  for (const LookStyle& style : lookStyles()) {
+    if (!style.usesSurface()) continue;
+    Look look = lookOf("Shaded");
+    look.style = &style;
+    look.surface = makeRgb(30, 200, 60);
+    look.line = look.background = makeRgb(24, 20, 64);
+    look.light.direction = {0, 0, 100};
+    const Picture picture = draw(ball(0.9F, grey), look);
+    int green = 0, blue = 0;
+    for (int x = centerX + 10; x < centerX + 30; ++x) {
+      green += colorAt(picture, x, centerY + 18).green;
+      blue += colorAt(picture, x, centerY + 18).blue;
+    }
+    EXPECT_GT(green, blue + 20 * 30) << style.name;
+  }
+}
+
 TEST(Effects, everyStyleWithLinesDrawsThemInTheirColor) {
   for (const LookStyle& style : lookStyles()) {
     Look look = lookOf("Shaded");
