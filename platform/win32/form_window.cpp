@@ -102,7 +102,7 @@ FormWindow::~FormWindow() {
 }
 
 // The height of the whole window is fixed, and the desktop's captions take more or less of it. Where they take too
-// much, the rows move together, so that what begins in sight also ends there.
+// much, the rows move together, so that what is in sight for its greater part is so as a whole.
 void FormWindow::fitRows() {
   RECT client = {};
   GetClientRect(hwnd, &client);
@@ -110,14 +110,14 @@ void FormWindow::fitRows() {
   rowsHave = rowsNeed = client.bottom;
   for (const ControlLayout& row : layout.controls) {
     const RECT at = screenScale.pixels(row.bounds);
-    if (at.top < client.bottom) rowsNeed = std::max<int>(rowsNeed, at.bottom);
+    if ((at.top + at.bottom) / 2 < client.bottom) rowsNeed = std::max<int>(rowsNeed, at.bottom);
   }
 }
 
 RECT FormWindow::place(const Bounds& bounds) const {
   RECT at = screenScale.pixels(bounds);
-  at.top = MulDiv(at.top, rowsHave, rowsNeed);
-  at.bottom = MulDiv(at.bottom, rowsHave, rowsNeed);
+  at.top = at.top * rowsHave / rowsNeed;
+  at.bottom = at.bottom * rowsHave / rowsNeed;
   return at;
 }
 
