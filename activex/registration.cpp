@@ -55,13 +55,11 @@ Entries nameEntries() {
 
 Entries libraryEntries() {
   const std::wstring library = typeLibraryKey();
-  const std::wstring module = modulePath();
   return {
       {library, L""},
       {library + L"\\1.0", libraryTitle},
       {library + L"\\1.0\\0", L""},
       {library + L"\\1.0\\FLAGS", L"0"},
-      {library + L"\\1.0\\HELPDIR", module.substr(0, module.find_last_of(L'\\'))},
   };
 }
 
