@@ -19,7 +19,7 @@ class Document(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         cls.models = sorted(programs.models.rglob("*.twe"))
-        cls.probe = Probe(programs.probe)
+        cls.probe = Probe()
         cls.addClassCleanup(cls.probe.close)
 
     def start(self, model):
@@ -135,7 +135,7 @@ class BrokenModels(unittest.TestCase):
         self.addCleanup(folder.cleanup)
         model = Path(folder.name) / name
         model.write_bytes(content)
-        probe = Probe(programs.probe)
+        probe = Probe()
         self.addCleanup(probe.close)
         host = Host(model, program=programs.host)
         self.addCleanup(host.close)

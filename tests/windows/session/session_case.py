@@ -28,7 +28,6 @@ def main():
     programs.resources = options.build / "assets"
     programs.script_host = options.build / "tests" / "windows" / "com" / "script_host.exe"
     programs.host = options.build / "host" / "app" / "zephra-host.exe"
-    programs.probe = options.build / "tools" / "ui_probe" / "ui-probe.exe"
     programs.models = options.models
     installation.register(programs.control, programs.arch)
     installation.set_paths(programs.resources)
@@ -42,7 +41,7 @@ class SessionCase(unittest.TestCase):
 
     @classmethod
     def setUpClass(cls):
-        cls.probe = Probe(programs.probe)
+        cls.probe = Probe()
         cls.addClassCleanup(cls.probe.close)
         cls.client = Client(programs.script_host)
         cls.addClassCleanup(cls.client.close)
