@@ -1,6 +1,7 @@
 #include "activex/registration.h"
 
 #include <ActiveNeridaToolbar_h.h>
+#include <olectl.h>
 
 #include <algorithm>
 #include <string>
@@ -152,6 +153,11 @@ bool otherBitnessHasClass(HKEY base) {
   return RegOpenKeyExW(base, (classes + classKey()).c_str(), 0, KEY_READ | otherView, key.put()) == ERROR_SUCCESS;
 }
 
+bool namesServer(HKEY base) {
+  const std::wstring key = classes + classKey() + L"\\InprocServer32";
+  return RegGetValueW(base, key.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
+}
+
 bool otherBitnessHasLibrary(HKEY base) { return contents(base, typeLibraryKey() + L"\\1.0\\0").keys > 0; }
 
 }  // namespace
@@ -171,7 +177,7 @@ HRESULT unregisterServer(Scope scope) {
   if (!otherBitnessHasLibrary(base)) remove(base, libraryEntries());
   if (!otherBitnessHasClass(base)) remove(base, nameEntries());
   if (scope == Scope::user) removeEmptyParents(base);
-  return S_OK;
+  return namesServer(base) ? SELFREG_E_CLASS : S_OK;
 }
 
 }  // namespace nerida

@@ -107,8 +107,7 @@ STDMETHODIMP BarAccessible::get_accState(VARIANT child, VARIANT* state) {
   int index = wholeBar;
   const HRESULT status = resolve(child, index);
   if (FAILED(status)) return status;
-  const LONG ofBar = IsWindowVisible(bar->window()) ? 0 : STATE_SYSTEM_INVISIBLE;
-  *state = number(index == wholeBar ? ofBar : static_cast<LONG>(bar->buttonStateFlags(index)));
+  *state = number(static_cast<LONG>(index == wholeBar ? bar->stateFlags() : bar->buttonStateFlags(index)));
   return S_OK;
 }
 

@@ -52,6 +52,7 @@ class SystemButtonBar final : public ControlOf<ButtonBar> {
   int buttonCount() const;
   const BarButton& button(int index) const;
   std::wstring buttonName(int index) const;  // the tooltip, else the caption, else the key
+  DWORD stateFlags() const;                  // of the bar as a whole
   DWORD buttonStateFlags(int index) const;
   bool canPress(int index) const;  // usable, in sight and not waiting for a modal window
   int buttonAt(POINT point) const;
