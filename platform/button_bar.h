@@ -21,7 +21,7 @@ class ButtonBar : public Control {
   virtual void openLayout(const std::string& name) = 0;
   // Adds a button to the open layout: key, and bitmap spec "kind, file, left, top[, width, height]" (pixels at 96 dpi;
   // blanks do not count; width and height default to 23 by 22). A spec whose picture is missing gives a button
-  // without one. Error 5 when the spec has no kind or the key is already in the layout.
+  // without one. Error 5 when it names no kind or the key is already in the layout.
   virtual void addButton(const std::string& key, const std::string& bitmapSpec) = 0;
   // Of the button just added.
   virtual void setTooltip(const std::string& text) = 0;
