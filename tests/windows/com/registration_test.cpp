@@ -40,6 +40,52 @@ Snapshot classes(HKEY scope) {
   return result;
 }
 
+std::wstring braced(REFGUID id) {
+  wchar_t text[40];
+  StringFromGUID2(id, text, 40);
+  return text;
+}
+
+// Stands in for a registration of the other bitness.
+class OtherRegistration {
+ public:
+  OtherRegistration() {
+    create(library, 0);
+    create(classKey, otherView);
+  }
+  ~OtherRegistration() { clear(); }
+  OtherRegistration(const OtherRegistration&) = delete;
+  OtherRegistration& operator=(const OtherRegistration&) = delete;
+
+  // Removes this stand-in, or a real one.
+  static void clear() {
+    remove(library, 0);
+    remove(classKey, otherView);
+  }
+
+  static constexpr REGSAM otherView = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
+  static inline const std::wstring classKey = L"CLSID\\" + braced(CLSID_NeridaWindow);
+  static inline const std::wstring library =
+      L"TypeLib\\" + braced(LIBID_ActiveNeridaToolbar) + L"\\1.0\\0\\" + (sizeof(void*) == 8 ? L"win32" : L"win64");
+
+ private:
+  static std::wstring path(const std::wstring& key) { return std::wstring(root) + L"\\" + key; }
+  static void create(const std::wstring& key, REGSAM view) {
+    HKEY handle = nullptr;
+    RegCreateKeyExW(HKEY_LOCAL_MACHINE, path(key).c_str(), 0, nullptr, 0, KEY_ALL_ACCESS | view, nullptr, &handle,
+                    nullptr);
+    RegCloseKey(handle);
+  }
+  static void remove(const std::wstring& key, REGSAM view) {
+    HKEY handle = nullptr;
+    if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, path(key).c_str(), 0, KEY_ALL_ACCESS | view, &handle) != ERROR_SUCCESS)
+      return;
+    RegDeleteTreeW(handle, nullptr);
+    RegCloseKey(handle);
+    RegDeleteKeyExW(HKEY_LOCAL_MACHINE, path(key).c_str(), view, 0);
+  }
+};
+
 class Registration : public testing::Test {
  protected:
   static void SetUpTestSuite() { CoInitialize(nullptr); }
@@ -47,6 +93,7 @@ class Registration : public testing::Test {
 
   // A registration that an earlier, broken run has left would hide what is tested here.
   Registration() {
+    OtherRegistration::clear();
     module.call("DllUnregisterServer");
     machine = classes(HKEY_LOCAL_MACHINE);
     user = classes(HKEY_CURRENT_USER);
@@ -109,41 +156,6 @@ bool exists(const std::wstring& key, REGSAM view = 0) {
   return found;
 }
 
-std::wstring braced(REFGUID id) {
-  wchar_t text[40];
-  StringFromGUID2(id, text, 40);
-  return text;
-}
-
-// Stands in for a registration of the other bitness.
-class OtherRegistration {
- public:
-  OtherRegistration() {
-    create(library, 0);
-    create(classKey, otherView);
-  }
-  ~OtherRegistration() {
-    RegDeleteKeyExW(HKEY_LOCAL_MACHINE, path(library).c_str(), 0, 0);
-    RegDeleteKeyExW(HKEY_LOCAL_MACHINE, path(classKey).c_str(), otherView, 0);
-  }
-  OtherRegistration(const OtherRegistration&) = delete;
-  OtherRegistration& operator=(const OtherRegistration&) = delete;
-
-  static constexpr REGSAM otherView = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
-  const std::wstring classKey = L"CLSID\\" + braced(CLSID_NeridaWindow);
-  const std::wstring library =
-      L"TypeLib\\" + braced(LIBID_ActiveNeridaToolbar) + L"\\1.0\\0\\" + (sizeof(void*) == 8 ? L"win32" : L"win64");
-
- private:
-  static std::wstring path(const std::wstring& key) { return std::wstring(root) + L"\\" + key; }
-  static void create(const std::wstring& key, REGSAM view) {
-    HKEY handle = nullptr;
-    RegCreateKeyExW(HKEY_LOCAL_MACHINE, path(key).c_str(), 0, nullptr, 0, KEY_ALL_ACCESS | view, nullptr, &handle,
-                    nullptr);
-    RegCloseKey(handle);
-  }
-};
-
 TEST_F(Registration, LeavesTheOtherBitnessAlone) {
   const std::wstring name = L"ActiveNeridaToolbar.NeridaWindow\\CLSID";
   ASSERT_EQ(module.call("DllRegisterServer"), S_OK);
@@ -151,9 +163,9 @@ TEST_F(Registration, LeavesTheOtherBitnessAlone) {
     const OtherRegistration other;
     EXPECT_EQ(module.call("DllUnregisterServer"), S_OK);
     EXPECT_TRUE(exists(name));
-    EXPECT_TRUE(exists(other.library));
-    EXPECT_TRUE(exists(other.classKey, OtherRegistration::otherView));
-    EXPECT_FALSE(exists(other.classKey));
+    EXPECT_TRUE(exists(OtherRegistration::library));
+    EXPECT_TRUE(exists(OtherRegistration::classKey, OtherRegistration::otherView));
+    EXPECT_FALSE(exists(OtherRegistration::classKey));
   }
   EXPECT_EQ(module.call("DllUnregisterServer"), S_OK);
   EXPECT_FALSE(exists(name));
