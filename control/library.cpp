@@ -10,12 +10,12 @@ Library::Library(const Platform& platform)
       settings(platform.settings),
       messages(platform.prompts),
       toolbar(state, platform.windows, desktop, paths, messages),
-      lineThicknessMenu(state, platform.windows, toolbar),
-      lineColors(state, platform.windows, toolbar, lineRole),
-      surfaceColors(state, platform.windows, toolbar, surfaceRole),
-      backgroundColors(state, platform.windows, toolbar, backgroundRole),
-      animation(state, platform.windows, toolbar),
-      lighting(state, platform.windows, toolbar),
+      lineThicknessMenu(state, platform.windows, desktop, toolbar),
+      lineColors(state, platform.windows, desktop, toolbar, lineRole),
+      surfaceColors(state, platform.windows, desktop, toolbar, surfaceRole),
+      backgroundColors(state, platform.windows, desktop, toolbar, backgroundRole),
+      animation(state, platform.windows, desktop, toolbar),
+      lighting(state, platform.windows, desktop, toolbar),
       browser(state, platform.windows, paths, messages, platform.shell),
       about(state, platform.windows, paths) {
   toolbar.connect({&animation, &browser, [this](const Message& message) { return ToolbarWindowProc(*this, message); }});

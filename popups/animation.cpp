@@ -4,8 +4,8 @@
 
 namespace nerida {
 
-frmAnimation::frmAnimation(State& state, WindowFactory& windows, PopupOpener& opener)
-    : Popup(state, windows, animationLayout, animationIndex, opener) {}
+frmAnimation::frmAnimation(State& state, WindowFactory& windows, Desktop& desktop, PopupOpener& opener)
+    : Popup(state, windows, desktop, animationLayout, animationIndex, opener) {}
 
 void frmAnimation::HideSelf() {
   if (!closing) {

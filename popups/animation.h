@@ -7,7 +7,7 @@ namespace nerida {
 // The playback bar of an animated model. It stays open until it is told to hide.
 class frmAnimation : public Popup {
  public:
-  frmAnimation(State& state, WindowFactory& windows, PopupOpener& opener);
+  frmAnimation(State& state, WindowFactory& windows, Desktop& desktop, PopupOpener& opener);
 
   void HideSelf() override;
   // The frame field. Touching it loads the form.

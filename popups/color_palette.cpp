@@ -2,8 +2,9 @@
 
 namespace nerida {
 
-ColorPalette::ColorPalette(State& state, WindowFactory& windows, PopupOpener& opener, const PaletteRole& role)
-    : Popup(state, windows, role.layout, role.index, opener), role(role) {}
+ColorPalette::ColorPalette(State& state, WindowFactory& windows, Desktop& desktop, PopupOpener& opener,
+                           const PaletteRole& role)
+    : Popup(state, windows, desktop, role.layout, role.index, opener), role(role) {}
 
 void ColorPalette::HideSelf() {
   if (closing) return;

@@ -19,7 +19,7 @@ inline constexpr PaletteRole surfaceRole{surfaceColorsLayout, surfaceColorsIndex
 // The colour palette: frmBackgroundColors, frmLineColors and frmSurfaceColors are its three instances.
 class ColorPalette : public Popup {
  public:
-  ColorPalette(State& state, WindowFactory& windows, PopupOpener& opener, const PaletteRole& role);
+  ColorPalette(State& state, WindowFactory& windows, Desktop& desktop, PopupOpener& opener, const PaletteRole& role);
 
   void HideSelf() override;
 

@@ -4,8 +4,8 @@
 
 namespace nerida {
 
-frmLighting::frmLighting(State& state, WindowFactory& windows, PopupOpener& opener)
-    : Popup(state, windows, lightingLayout, lightingIndex, opener) {}
+frmLighting::frmLighting(State& state, WindowFactory& windows, Desktop& desktop, PopupOpener& opener)
+    : Popup(state, windows, desktop, lightingLayout, lightingIndex, opener) {}
 
 void frmLighting::HideSelf() {
   if (closing) return;

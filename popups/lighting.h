@@ -7,7 +7,7 @@ namespace nerida {
 // The picker of the light's direction and its switch.
 class frmLighting : public Popup {
  public:
-  frmLighting(State& state, WindowFactory& windows, PopupOpener& opener);
+  frmLighting(State& state, WindowFactory& windows, Desktop& desktop, PopupOpener& opener);
 
   void HideSelf() override;
 };

@@ -4,8 +4,8 @@
 
 namespace nerida {
 
-frmLineThicknessMenu::frmLineThicknessMenu(State& state, WindowFactory& windows, PopupOpener& opener)
-    : Popup(state, windows, lineThicknessLayout, lineThicknessIndex, opener) {}
+frmLineThicknessMenu::frmLineThicknessMenu(State& state, WindowFactory& windows, Desktop& desktop, PopupOpener& opener)
+    : Popup(state, windows, desktop, lineThicknessLayout, lineThicknessIndex, opener) {}
 
 void frmLineThicknessMenu::HideSelf() {
   if (closing) return;

@@ -7,7 +7,7 @@ namespace nerida {
 // The menu of line thicknesses.
 class frmLineThicknessMenu : public Popup {
  public:
-  frmLineThicknessMenu(State& state, WindowFactory& windows, PopupOpener& opener);
+  frmLineThicknessMenu(State& state, WindowFactory& windows, Desktop& desktop, PopupOpener& opener);
 
   void HideSelf() override;
 };
