@@ -9,13 +9,8 @@ constexpr std::array animationControls{
     ControlLayout{"txtFrame", 0, ControlKind::textBox, {{1170}, {60}, {600}, {300}}, "", "Frame number"},
 };
 
-constexpr FormLayout paletteNamed(const char* name) { return {name, "", FormFrame::popup, {2400}, {2850}, {}}; }
-
 }  // namespace
 
-constinit const FormLayout backgroundColorsLayout = paletteNamed("frmBackgroundColors");
-constinit const FormLayout lineColorsLayout = paletteNamed("frmLineColors");
-constinit const FormLayout surfaceColorsLayout = paletteNamed("frmSurfaceColors");
 constinit const FormLayout lineThicknessLayout{"frmLineThicknessMenu", "", FormFrame::popup, {1200}, {1500}, {}};
 constinit const FormLayout lightingLayout{"frmLighting", "", FormFrame::popup, {1800}, {1500}, {}};
 constinit const FormLayout animationLayout{"frmAnimation", "", FormFrame::popup, {2940}, {480}, animationControls};
