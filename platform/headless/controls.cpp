@@ -42,6 +42,41 @@ void Text::setText(const std::string& value) {
   note("text " + value);
 }
 
+void Picture::setFocus() {
+  if (focus.holder == this) return;
+  if (focus.holder) focus.holder->loseFocus();
+  focus.holder = this;
+  if (gotFocus) gotFocus();
+}
+
+void Picture::loseFocus() {
+  if (focus.holder == this) focus.holder = nullptr;
+  if (lostFocus) lostFocus();
+}
+
+void Picture::movePointer(Twips x, Twips y) {
+  if (mouseMove) mouseMove(x, y);
+}
+
+void Picture::pressAt(Twips x, Twips y) {
+  if (mouseDown) mouseDown(x, y);
+}
+
+void Picture::releaseAt(Twips x, Twips y) {
+  if (mouseUp) mouseUp(x, y);
+}
+
+bool Picture::key(Key pressed) { return keyDown && keyDown(pressed); }
+
+void Caption::movePointer() const {
+  if (mouseMove) mouseMove();
+}
+
+void Caption::click() const {
+  if (mouseDown) mouseDown();
+  if (mouseUp) mouseUp();
+}
+
 void Caption::setCaption(const std::string& value) {
   caption = value;
   note("caption " + value);

@@ -14,6 +14,11 @@ namespace nerida::headless {
 
 // A whole headless side, with one transcript.
 struct HeadlessPlatform {
+  HeadlessPlatform() {
+    windows.activeChanged = [this](WindowHandle window) { screen.active = window; };
+    boxes.colorDialogToggles = [this](bool open) { open ? windows.activateElsewhere() : windows.activateAgain(); };
+  }
+
   Transcript transcript;
   Screen screen{transcript};
   Windows windows{transcript};

@@ -30,7 +30,11 @@ FormWindow::FormWindow(Windows& windows, const FormLayout& layout, WindowHandle 
 }
 
 FormWindow::~FormWindow() {
+  for (const auto& [key, picture] : pictures) {
+    if (windows.focus.holder == picture.get()) windows.focus.holder = nullptr;
+  }
   if (windows.active == this) windows.active = nullptr;
+  if (windows.activeBefore == this) windows.activeBefore = nullptr;
   std::erase(windows.living, this);
   note("unload");
 }
@@ -51,7 +55,7 @@ void FormWindow::createControls() {
         texts[key]->content = control.text;
         break;
       case ControlKind::pictureBox:
-        pictures[key] = std::make_unique<Picture>(windows.transcript, name, control.bounds);
+        pictures[key] = std::make_unique<Picture>(windows.transcript, name, control.bounds, windows.focus);
         break;
       case ControlKind::label:
         labels[key] = std::make_unique<Caption>(windows.transcript, name, control.bounds);
@@ -86,12 +90,9 @@ void FormWindow::setVisible(bool value) {
   if (visible == value && (!value || windows.active == this)) return;
   visible = value;
   if (value) {
-    FormWindow* before = std::exchange(windows.active, this);
-    if (before && before != this && before->deactivated) before->deactivated();
-    if (before != this && activated) activated();
+    windows.activate(this);
   } else if (windows.active == this) {
-    windows.active = nullptr;
-    if (deactivated) deactivated();
+    windows.activate(nullptr);
   }
 }
 
@@ -156,6 +157,8 @@ void FormWindow::userCloses() {
   if (closeRequested) closeRequested();
 }
 
+void FormWindow::userActivates() { windows.activate(this); }
+
 void FormWindow::userClicks() {
   if (clicked) clicked();
 }
@@ -171,6 +174,26 @@ FormWindow* Windows::find(const std::string& name) const {
     if (name == window->layout.name) return window;
   }
   return nullptr;
+}
+
+// The focus goes after the activation: who loses it can see which window is active by then.
+void Windows::activate(FormWindow* window) {
+  if (active == window) return;
+  FormWindow* before = std::exchange(active, window);
+  if (activeChanged) activeChanged(window ? window->handle() : 0);
+  if (before && before->deactivated) before->deactivated();
+  if (focus.holder) focus.holder->loseFocus();
+  if (window && active == window && window->activated) window->activated();
+}
+
+void Windows::activateElsewhere() {
+  activeBefore = active;
+  activate(nullptr);
+}
+
+void Windows::activateAgain() {
+  FormWindow* window = std::exchange(activeBefore, nullptr);
+  if (window && window->isVisible()) activate(window);
 }
 
 void Windows::activateApplication(bool activeNow) {
