@@ -96,6 +96,11 @@ void Bar::hover(const std::string& key) {
   if (buttonMouseMove) buttonMouseMove(key);
 }
 
+void Bar::loseFocus() {
+  focusedKey.clear();
+  if (lostFocus) lostFocus();
+}
+
 Bar::Button* Bar::find(const std::string& key) {
   for (auto& [layoutName, layout] : layouts) {
     for (Button& candidate : layout.buttons) {

@@ -53,6 +53,7 @@ class Bar : public ButtonBar {
 
   // The pointer moves over a button.
   void hover(const std::string& key);
+  void loseFocus();
   // The user presses a button of the layout that is shown. Pressing what is not there is a mistake of the test.
   void press(const std::string& key);
   const Button& button(const std::string& key) const;

@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "platform/error.h"
+#include "platform/headless/recording_canvas.h"
 
 namespace nerida::headless {
 
@@ -40,6 +41,17 @@ void Combo::choose(const std::string& text) {
 void Text::setText(const std::string& value) {
   content = value;
   note("text " + value);
+}
+
+void Text::enter(const std::string& typed) {
+  content = typed;
+  if (enterPressed) enterPressed();
+}
+
+std::vector<std::string> Picture::draw() const {
+  RecordingCanvas canvas;
+  if (paint) paint(canvas);
+  return canvas.lines;
 }
 
 void Picture::setFocus() {

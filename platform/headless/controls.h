@@ -58,6 +58,9 @@ class Text : public Basic<TextBox> {
   std::string text() const override { return content; }
   void setText(const std::string& value) override;
 
+  // The user types a text in place of the old one and presses Enter.
+  void enter(const std::string& typed);
+
   std::string content;
 };
 
@@ -80,6 +83,8 @@ class Picture : public Basic<PictureBox> {
   void releaseAt(Twips x, Twips y);
   bool key(Key pressed);
   void loseFocus();
+  // What the control draws now, a line for each thing: "fill 0,0 to 30,15 in #0000FF", "box 0,0 to 30,15 in system 16".
+  std::vector<std::string> draw() const;
 
   std::string tooltip;
 

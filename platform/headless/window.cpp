@@ -159,6 +159,10 @@ void FormWindow::userCloses() {
 
 void FormWindow::userActivates() { windows.activate(this); }
 
+void FormWindow::userMovesPointer() {
+  if (mouseMoved) mouseMoved();
+}
+
 void FormWindow::userClicks() {
   if (clicked) clicked();
 }

@@ -54,6 +54,7 @@ class FormWindow : public Window {
   std::intptr_t send(std::uint32_t number, std::uintptr_t wParam = 0, std::intptr_t lParam = 0);
   void userCloses();
   void userClicks();
+  void userMovesPointer();  // over the form outside its controls
   // The user goes to the window, by a mouse press for one.
   void userActivates();
 
