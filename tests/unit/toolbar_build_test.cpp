@@ -172,6 +172,10 @@ TEST_F(ToolbarBuild, NamesTheFieldsByTheirTooltips) {
 // Everything that a glyph draws, as text.
 class SketchPad : public Canvas {
  public:
+  // The glyphs use no colours of their own and take no focus.
+  void line(Twips, Twips, Twips, Twips, Rgb) override { ADD_FAILURE(); }
+  void filledBox(Twips, Twips, Twips, Twips, Rgb) override { ADD_FAILURE(); }
+  void focusBox(Twips, Twips, Twips, Twips) override { ADD_FAILURE(); }
   void line(Twips x1, Twips y1, Twips x2, Twips y2, SystemColor color) override { add("line", x1, y1, x2, y2, color); }
   void box(Twips x1, Twips y1, Twips x2, Twips y2, SystemColor color) override { add("box", x1, y1, x2, y2, color); }
   void filledBox(Twips x1, Twips y1, Twips x2, Twips y2, SystemColor color) override {
