@@ -82,6 +82,11 @@ void Desk::pressWithMouse(headless::Bar& target, const std::string& key) {
   target.press(key);
 }
 
+void Desk::showBeside(Popup& popup) {
+  platform.windows.focus.holder = nullptr;
+  popup.ShowSelf(1, 1);
+}
+
 void Desk::answerBoxes(int count) {
   platform.boxes.answers.insert(platform.boxes.answers.end(), static_cast<std::size_t>(count), PromptAnswer::ok);
 }

@@ -50,6 +50,9 @@ class Desk {
   // A press as the mouse does it: the toolbar takes the activation while the button is held.
   void pressWithMouse(headless::Bar& bar, const std::string& key);
 
+  // Shows a popup as if the focus had not been in another one, which closes when it loses it.
+  void showBeside(Popup& popup);
+
   // The user's answers to the message boxes to come.
   void answerBoxes(int count);
   // What the toolbar asks the desktop for when a popup gives it the foreground.

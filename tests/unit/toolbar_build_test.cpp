@@ -105,7 +105,10 @@ class ToolbarBuild : public DeskTest {
 
 TEST_F(ToolbarBuild, MakesEveryCallInItsOrder) {
   Lines lines = take();
-  std::erase_if(lines, [](const std::string& line) { return !line.starts_with("bar"); });
+  // The popups have bars of their own.
+  std::erase_if(lines, [](const std::string& line) {
+    return !line.starts_with("barM") && !line.starts_with("barLS(") && !line.starts_with("barWorld(");
+  });
   EXPECT_THAT(lines, ElementsAreArray(expectedBuilding()));
 }
 
