@@ -9,6 +9,18 @@
 
 namespace nerida {
 
+namespace {
+
+// A window manager that activates windows by itself does so shortly before it lets the press through.
+bool isMousePressedOrAboutTo() {
+  constexpr DWORD patience = 40;  // milliseconds
+  const bool swapped = GetSystemMetrics(SM_SWAPBUTTON) != 0;
+  if (GetAsyncKeyState(swapped ? VK_RBUTTON : VK_LBUTTON) < 0) return true;
+  return MsgWaitForMultipleObjects(0, nullptr, FALSE, patience, QS_MOUSEBUTTON) == WAIT_OBJECT_0;
+}
+
+}  // namespace
+
 SystemButtonBar::SystemButtonBar(FormWindow& owner, const ControlLayout& row) : ControlOf(owner, row) {
   createOwn(buttonBarClass, 0);
 }
@@ -117,13 +129,11 @@ void SystemButtonBar::setValue(const std::string& key, int value) {
 // Also a press that has not gone down here yet, because the form is only being activated by it.
 bool SystemButtonBar::isHeldByMouse(const std::string& key) const {
   if (arriving != none && button(arriving).key == key) return true;
-  const bool swapped = GetSystemMetrics(SM_SWAPBUTTON) != 0;
-  if (pressed == none && GetAsyncKeyState(swapped ? VK_RBUTTON : VK_LBUTTON) >= 0) return false;
   POINT pointer = {};
   if (!GetCursorPos(&pointer) || WindowFromPoint(pointer) != window()) return false;
   ScreenToClient(window(), &pointer);
   const int under = buttonAt(pointer);
-  return under != none && button(under).key == key;
+  return under != none && button(under).key == key && (pressed != none || isMousePressedOrAboutTo());
 }
 
 int SystemButtonBar::buttonCount() const {
