@@ -13,7 +13,7 @@ namespace {
 
 // A window manager that activates windows by itself does so shortly before it lets the press through.
 bool isMousePressedOrAboutTo() {
-  constexpr DWORD patience = 40;  // milliseconds
+  constexpr DWORD patience = 200;  // milliseconds
   const bool swapped = GetSystemMetrics(SM_SWAPBUTTON) != 0;
   if (GetAsyncKeyState(swapped ? VK_RBUTTON : VK_LBUTTON) < 0) return true;
   return MsgWaitForMultipleObjects(0, nullptr, FALSE, patience, QS_MOUSEBUTTON) == WAIT_OBJECT_0;
