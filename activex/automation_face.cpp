@@ -2,7 +2,6 @@
 
 #include "activex/border.h"
 #include "activex/late_bound_call.h"
-#include "activex/process_library.h"
 #include "activex/type_library.h"
 #include "platform/win32/automation.h"
 
@@ -33,8 +32,6 @@ VARIANT emptyVariant() {
 }
 
 }  // namespace
-
-AutomationFace::AutomationFace() : control(processLibrary()) {}
 
 STDMETHODIMP AutomationFace::GetTypeInfoCount(UINT* count) {
   if (count == nullptr) return E_POINTER;

@@ -4,6 +4,7 @@
 
 #include <optional>
 
+#include "activex/process_library.h"
 #include "control/nerida_window.h"
 
 namespace nerida {
@@ -12,8 +13,6 @@ namespace nerida {
 // takes every form of argument that scripts and BASIC programs send for a by-reference one.
 class AutomationFace : public _NeridaWindow {
  public:
-  AutomationFace();
-
   STDMETHODIMP GetTypeInfoCount(UINT* count) override;
   STDMETHODIMP GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) override;
   STDMETHODIMP GetIDsOfNames(REFIID reserved, OLECHAR** names, UINT count, LCID locale, DISPID* ids) override;
@@ -31,10 +30,12 @@ class AutomationFace : public _NeridaWindow {
   STDMETHODIMP ShowCatalog(LONG* result) override;
 
  protected:
+  AutomationFace() = default;
   ~AutomationFace() = default;
 
  private:
-  NeridaWindow control;
+  const LibraryHold hold;
+  NeridaWindow control{hold.library()};
 };
 
 }  // namespace nerida

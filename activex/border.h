@@ -7,6 +7,11 @@
 
 namespace nerida {
 
+// The failure of a COM method, thrown from where it cannot be returned.
+struct Refusal {
+  HRESULT status;
+};
+
 // Runs what stands behind a COM method; no exception may cross into the caller.
 template <typename Body>
 HRESULT border(Body body) noexcept {
@@ -14,6 +19,8 @@ HRESULT border(Body body) noexcept {
     return body();
   } catch (const std::bad_alloc&) {
     return E_OUTOFMEMORY;
+  } catch (const Refusal& refusal) {
+    return refusal.status;
   } catch (...) {
     return E_UNEXPECTED;
   }

@@ -39,8 +39,9 @@ STDAPI DllRegisterServer() {
 
 STDAPI DllUnregisterServer() {
   return border([] {
-    nerida::unregisterServer(Scope::machine);
-    return nerida::unregisterServer(Scope::user);
+    const HRESULT machine = nerida::unregisterServer(Scope::machine);
+    const HRESULT user = nerida::unregisterServer(Scope::user);
+    return FAILED(machine) ? machine : user;
   });
 }
 

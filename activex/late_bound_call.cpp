@@ -57,6 +57,7 @@ void assign(VARIANT& reference, SHORT number) {
 }  // namespace
 
 HRESULT memberIds(OLECHAR** names, UINT count, DISPID* ids) {
+  if (names == nullptr || ids == nullptr || count == 0) return E_INVALIDARG;
   const auto info = typeInfo(IID__NeridaWindow);
   return info ? info->GetIDsOfNames(names, count, ids) : TYPE_E_CANTLOADLIBRARY;
 }
@@ -65,9 +66,22 @@ HRESULT LateBoundCall::run(DISPID member, WORD flags) {
   if (member < isToolbarVisible || member > showCatalog || (flags & DISPATCH_METHOD) == 0) {
     return DISP_E_MEMBERNOTFOUND;
   }
+  if (const HRESULT status = checkNames(); FAILED(status)) return status;
   if (parameters.cArgs > argumentCount(member)) return DISP_E_BADPARAMCOUNT;
   if (parameters.cArgs < argumentCount(member)) return DISP_E_PARAMNOTOPTIONAL;
   return dispatch(member);
+}
+
+// Arguments are named by their positions.
+HRESULT LateBoundCall::checkNames() const {
+  if (parameters.cNamedArgs > parameters.cArgs) return E_INVALIDARG;
+  for (UINT i = 0; i < parameters.cNamedArgs; ++i) {
+    const DISPID name = parameters.rgdispidNamedArgs[i];
+    if (name >= 0 && name < static_cast<DISPID>(parameters.cArgs)) continue;
+    if (argumentError != nullptr) *argumentError = i;
+    return DISP_E_PARAMNOTFOUND;
+  }
+  return S_OK;
 }
 
 template <typename Result, typename Method>

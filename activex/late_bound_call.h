@@ -19,6 +19,7 @@ class LateBoundCall {
   HRESULT run(DISPID member, WORD flags);
 
  private:
+  HRESULT checkNames() const;
   HRESULT dispatch(DISPID member);
   template <typename Result, typename Method>
   HRESULT call(Method method);

@@ -33,8 +33,11 @@ STDMETHODIMP OleFace::SetClientSite(IOleClientSite* site) {
 
 STDMETHODIMP OleFace::GetClientSite(IOleClientSite** site) { return handOut(clientSite, site); }
 
+// A listener may release the control, and the holder with it.
 STDMETHODIMP OleFace::Close(DWORD) {
-  if (holder) holder->SendOnClose();
+  if (!holder) return S_OK;
+  const SelfReference reference(static_cast<IOleObject&>(*this));
+  holder->SendOnClose();
   return S_OK;
 }
 
@@ -142,18 +145,20 @@ STDMETHODIMP OleFace::Draw(DWORD aspect, LONG, void*, DVTARGETDEVICE*, HDC, HDC 
   if (aspect != DVASPECT_CONTENT) return DV_E_DVASPECT;
   if (bounds == nullptr) return E_POINTER;
   RECT frame = {bounds->left, bounds->top, bounds->right, bounds->bottom};
+  const int state = SaveDC(context);
   FillRect(context, &frame, GetSysColorBrush(COLOR_BTNFACE));
   DrawEdge(context, &frame, EDGE_RAISED, BF_RECT | BF_ADJUST);
   SetBkMode(context, TRANSPARENT);
   SetTextColor(context, GetSysColor(COLOR_BTNTEXT));
   DrawTextW(context, L"NeridaWindow", -1, &frame, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
+  RestoreDC(context, state);
   return S_OK;
 }
 
 STDMETHODIMP OleFace::SetAdvise(DWORD aspects, DWORD flags, IAdviseSink* sink) {
-  viewSink = ComPtr<IAdviseSink>(sink);
   viewAspects = aspects;
   viewFlags = flags;
+  viewSink = ComPtr<IAdviseSink>(sink);
   return S_OK;
 }
 

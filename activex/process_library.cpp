@@ -1,5 +1,8 @@
 #include "activex/process_library.h"
 
+#include <mutex>
+
+#include "activex/border.h"
 #include "platform/win32/desktop.h"
 #include "platform/win32/prompts.h"
 #include "platform/win32/registry.h"
@@ -25,12 +28,27 @@ struct ProcessLibrary {
 // the other modules away.
 ProcessLibrary* instance = nullptr;
 
+std::mutex mutex;
+int holds = 0;
+DWORD holder = 0;  // the thread of the holds
+
 }  // namespace
 
-Library& processLibrary() {
+LibraryHold::LibraryHold() {
+  const std::scoped_lock lock(mutex);
+  const DWORD thread = GetCurrentThreadId();
+  if (holds > 0 && holder != thread) throw Refusal{RPC_E_WRONG_THREAD};
   if (instance == nullptr) instance = new ProcessLibrary();
-  return instance->library;
+  holder = thread;
+  ++holds;
 }
+
+LibraryHold::~LibraryHold() {
+  const std::scoped_lock lock(mutex);
+  --holds;
+}
+
+Library& LibraryHold::library() const { return instance->library; }
 
 void dropProcessLibrary() {
   delete instance;

@@ -4,8 +4,17 @@
 
 namespace nerida {
 
-// The process's one library over the system's services, put together at the first use.
-Library& processLibrary();
+// A control's hold on the process's one library over the system's services, which is put together at the first use.
+// The library's windows belong to the thread that made them, so while one thread's controls hold it, those of another
+// are refused (RPC_E_WRONG_THREAD is thrown).
+class LibraryHold {
+ public:
+  LibraryHold();
+  ~LibraryHold();
+  LibraryHold(const LibraryHold&) = delete;
+  LibraryHold& operator=(const LibraryHold&) = delete;
+  Library& library() const;
+};
 
 // Gives it up, when the module goes and the process stays.
 void dropProcessLibrary();

@@ -1,6 +1,7 @@
 #include "activex/registration.h"
 
 #include <ActiveNeridaToolbar_h.h>
+#include <olectl.h>
 
 #include <algorithm>
 #include <string>
@@ -55,13 +56,11 @@ Entries nameEntries() {
 
 Entries libraryEntries() {
   const std::wstring library = typeLibraryKey();
-  const std::wstring module = modulePath();
   return {
       {library, L""},
       {library + L"\\1.0", libraryTitle},
       {library + L"\\1.0\\0", L""},
       {library + L"\\1.0\\FLAGS", L"0"},
-      {library + L"\\1.0\\HELPDIR", module.substr(0, module.find_last_of(L'\\'))},
   };
 }
 
@@ -154,6 +153,11 @@ bool otherBitnessHasClass(HKEY base) {
   return RegOpenKeyExW(base, (classes + classKey()).c_str(), 0, KEY_READ | otherView, key.put()) == ERROR_SUCCESS;
 }
 
+bool namesServer(HKEY base) {
+  const std::wstring key = classes + classKey() + L"\\InprocServer32";
+  return RegGetValueW(base, key.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
+}
+
 bool otherBitnessHasLibrary(HKEY base) { return contents(base, typeLibraryKey() + L"\\1.0\\0").keys > 0; }
 
 }  // namespace
@@ -173,7 +177,7 @@ HRESULT unregisterServer(Scope scope) {
   if (!otherBitnessHasLibrary(base)) remove(base, libraryEntries());
   if (!otherBitnessHasClass(base)) remove(base, nameEntries());
   if (scope == Scope::user) removeEmptyParents(base);
-  return S_OK;
+  return namesServer(base) ? SELFREG_E_CLASS : S_OK;
 }
 
 }  // namespace nerida

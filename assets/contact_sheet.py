@@ -23,7 +23,7 @@ def place(sheet, rows, left, top, zoom, face):
 
 
 def sheet_of(table, zoom):
-    icons = sorted(path.stem for path in (table.folder / "icons").glob("*.svg"))
+    icons = table.icons()
     cells = [(table.scaled(table.icon_size[0], scale) + 6) * zoom for scale in table.scales]
     cell_width, cell_height = sum(cells) + 8 * zoom, (table.scaled(table.icon_size[1], max(table.scales)) + 8) * zoom
     lines = -(-len(icons) // COLUMNS)

@@ -28,8 +28,7 @@ bool hasName(IAccessible& bar, LONG child, const std::wstring& wanted) {
 BOOL CALLBACK lookInto(HWND window, LPARAM parameter) {
   auto& search = *reinterpret_cast<Search*>(parameter);
   IAccessible* bar = nullptr;
-  AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
-                             reinterpret_cast<void**>(&bar));
+  AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible, reinterpret_cast<void**>(&bar));
   if (bar == nullptr) return TRUE;
   LONG count = 0;
   bar->get_accChildCount(&count);

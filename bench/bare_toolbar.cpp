@@ -65,8 +65,8 @@ HWND makeChild(HWND parent, const wchar_t* name, const wchar_t* text, DWORD styl
 
 std::unique_ptr<Bar> makeBar(HWND parent, const ControlLayout& row) {
   auto bar = std::make_unique<Bar>();
-  constexpr DWORD style = TBSTYLE_FLAT | TBSTYLE_TOOLTIPS | TBSTYLE_LIST | CCS_NOPARENTALIGN | CCS_NORESIZE |
-                          CCS_NODIVIDER;
+  constexpr DWORD style =
+      TBSTYLE_FLAT | TBSTYLE_TOOLTIPS | TBSTYLE_LIST | CCS_NOPARENTALIGN | CCS_NORESIZE | CCS_NODIVIDER;
   bar->window = makeChild(parent, TOOLBARCLASSNAMEW, L"", style, row.bounds, pixels(row.bounds.height));
   SendMessageW(bar->window, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
   SendMessageW(bar->window, TB_SETBITMAPSIZE, 0, MAKELPARAM(pictureWidth, pictureHeight));
@@ -153,9 +153,9 @@ BareToolbar::BareToolbar() {
   constexpr DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU, extended = WS_EX_TOOLWINDOW;
   RECT outer = {0, 0, pixels(toolbarLayout.width), 0};
   AdjustWindowRectEx(&outer, style, FALSE, extended);
-  frame = CreateWindowExW(extended, frameClass, L"Zephra Toolbar", style | WS_CLIPCHILDREN, 0, 0,
-                          outer.right - outer.left, pixels(toolbarLayout.height), nullptr, nullptr,
-                          GetModuleHandleW(nullptr), nullptr);
+  frame =
+      CreateWindowExW(extended, frameClass, L"Zephra Toolbar", style | WS_CLIPCHILDREN, 0, 0, outer.right - outer.left,
+                      pixels(toolbarLayout.height), nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
   require(frame != nullptr, "the bare toolbar has its window");
   auto bars = std::make_unique<Bars>();
   for (const ControlLayout& row : toolbarLayout.controls) {

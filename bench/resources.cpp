@@ -49,15 +49,14 @@ long countHandles() {
     ULONG access;
   };
   std::vector<BYTE> table(std::size_t{4} << 20);
-  require(NtQuerySystemInformation(systemHandleInformation, table.data(), static_cast<ULONG>(table.size()), nullptr) ==
-              0,
-          "the system lists its handles");
+  require(
+      NtQuerySystemInformation(systemHandleInformation, table.data(), static_cast<ULONG>(table.size()), nullptr) == 0,
+      "the system lists its handles");
   ULONG count = 0;
   std::memcpy(&count, table.data(), sizeof count);
   const auto* entries = reinterpret_cast<const Entry*>(table.data() + sizeof(void*));
-  return static_cast<long>(std::count_if(entries, entries + count, [](const Entry& entry) {
-    return entry.process == GetCurrentProcessId();
-  }));
+  return static_cast<long>(std::count_if(entries, entries + count,
+                                         [](const Entry& entry) { return entry.process == GetCurrentProcessId(); }));
 }
 
 long countGdiObjects() {

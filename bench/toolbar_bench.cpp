@@ -12,12 +12,9 @@ constexpr struct {
   std::string_view name;
   void (*run)();
 } measurements[] = {
-    {"first-toolbar", nerida::bench::firstToolbar},
-    {"first-bare", nerida::bench::firstBareToolbar},
-    {"creations", nerida::bench::creations},
-    {"presses", nerida::bench::presses},
-    {"toolbar-shown", nerida::bench::toolbarShown},
-    {"bare-shown", nerida::bench::bareToolbarShown},
+    {"first-toolbar", nerida::bench::firstToolbar}, {"first-bare", nerida::bench::firstBareToolbar},
+    {"creations", nerida::bench::creations},        {"presses", nerida::bench::presses},
+    {"toolbar-shown", nerida::bench::toolbarShown}, {"bare-shown", nerida::bench::bareToolbarShown},
     {"show-hide", nerida::bench::showingAndHiding},
 };
 

@@ -19,7 +19,7 @@ void ColorPalette::Form_Load() {
     styleColorShown = moreColorsPressed = keysInUse = false;
     focus = Focus::none;
     connectEvents();
-    paintRecentSwatches();
+    recentSwatches = recent.PrevColor;  // the first paint shows them
     Popup::Form_Load();
   });
 }

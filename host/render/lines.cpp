@@ -134,9 +134,27 @@ class LineDrawer {
 
   void stretch(Vec2 from, Vec2 to, Pen pen) {
     if (pen.opacity <= 0) return;
+    if (lines.hiddenDash > 0 && pen.opacity < 1) return dashes(from, to, pen);
     if (lines.wobble <= 0) return stroke(frame, from, to, pen);
     sketch(from, to, pen, 0);
     sketch(from, to, {pen.width * 0.7F, pen.opacity * 0.6F}, 71.0F);
+  }
+
+  /// The dashes belong to the place, so they run on over the many short edges of a bend.
+  void dashes(Vec2 from, Vec2 to, Pen pen) {
+    const bool level = std::fabs(to.x - from.x) >= std::fabs(to.y - from.y);
+    const float start = level ? from.x : from.y, run = (level ? to.x : to.y) - start;
+    const float dash = lines.hiddenDash * frame.unit, first = std::min(start, start + run),
+                last = first + std::fabs(run);
+    const auto at = [&](float place) {
+      const float t = run != 0 ? (place - start) / run : 0;
+      return Vec2{from.x + (to.x - from.x) * t, from.y + (to.y - from.y) * t};
+    };
+    for (int i = static_cast<int>(std::floor(first / (2 * dash))); static_cast<float>(i) * 2 * dash < last; ++i) {
+      const float place = static_cast<float>(i) * 2 * dash;
+      const float begin = std::max(place, first), end = std::min(place + dash, last);
+      if (begin < end) stroke(frame, at(begin), at(end), pen);
+    }
   }
 
   /// By hand: short pieces whose ends wander. The wandering belongs to the place, so lines that meet stay together.
@@ -176,18 +194,18 @@ void clearInk(Frame& frame, const PixelBox& box) {
   }
 }
 
-/// Lead does not reach the valleys of the paper.
-float onPaper(float ink, float wobble, int x, int y) { return ink * (1 - 0.45F * wobble * grain(x, y)); }
+/// Lead and chalk do not reach the valleys of the paper.
+float onPaper(float ink, float share, int x, int y) { return ink * (1 - share * grain(x, y)); }
 
 void applyInk(const Frame& frame, const PixelBox& box, const Look& look, Picture& target) {
   const std::uint32_t color = pixelFromRgb(look.line.value_or(look.style->line));
-  const float wobble = look.style->lines.wobble;
+  const float bare = look.style->lines.grain;
   for (int y = box.top; y < box.bottom; ++y) {
     std::uint32_t* row = target.row(y);
     const float* ink = frame.ink.data() + frame.at(0, y);
     for (int x = box.left; x < box.right; ++x) {
       if (ink[x] <= 0) continue;
-      const float amount = wobble > 0 ? onPaper(ink[x], wobble, x, y) : ink[x];
+      const float amount = bare > 0 ? onPaper(ink[x], bare, x, y) : ink[x];
       row[x] = mixPixels(row[x], color, static_cast<std::uint32_t>(amount * 256));
     }
   }

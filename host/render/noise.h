@@ -18,31 +18,42 @@ inline float grain(int x, int y) {
   return static_cast<float>(h >> 8U) * (1.0F / 16777216.0F);
 }
 
-/// The same with soft transitions between the grid points.
+/// Leaves 0 and arrives at 1 without a bend.
+constexpr float eased(float t) { return t * t * (3 - 2 * t); }
+
+/// As grain(), with soft transitions between the grid points.
 inline float softGrain(float x, float y) {
   const float floorX = std::floor(x), floorY = std::floor(y);
   const auto column = static_cast<int>(floorX), line = static_cast<int>(floorY);
-  const auto ease = [](float t) { return t * t * (3 - 2 * t); };
-  const float u = ease(x - floorX), v = ease(y - floorY);
+  const float u = eased(x - floorX), v = eased(y - floorY);
   const float top = grain(column, line) * (1 - u) + grain(column + 1, line) * u;
   const float bottom = grain(column, line + 1) * (1 - u) + grain(column + 1, line + 1) * u;
   return top * (1 - v) + bottom * v;
 }
 
-/// The unevenness of drawing paper, 0 to 1: a sheet that is made once and laid out again and again.
-inline float paperGrain(int x, int y) {
-  constexpr int side = 256;
-  static const auto sheet = [] {
-    std::array<float, side * side> values{};
-    for (int i = 0; i < side * side; ++i) {
-      const int column = i % side, line = i / side;
-      const float soft = softGrain(static_cast<float>(column) * 0.3F, static_cast<float>(line) * 0.3F);
-      values[static_cast<std::size_t>(i)] = (soft + grain(column, line)) / 2;
-    }
-    return values;
-  }();
-  const auto line = static_cast<std::size_t>(y & (side - 1)), column = static_cast<std::size_t>(x & (side - 1));
-  return sheet[line * side + column];
-}
+/// Values that are made once and laid out again and again, like sheets side by side.
+class Sheet {
+ public:
+  template <class MakeValue>
+  explicit Sheet(MakeValue valueAt) {
+    for (int i = 0; i < side * side; ++i) values[static_cast<std::size_t>(i)] = valueAt(i % side, i / side);
+  }
+
+  [[nodiscard]] float operator()(int x, int y) const {
+    const auto column = static_cast<std::size_t>(x & (side - 1)), line = static_cast<std::size_t>(y & (side - 1));
+    return values[line * side + column];
+  }
+
+  static constexpr int side = 256;
+
+ private:
+  std::array<float, side * side> values;
+};
+
+/// The unevenness of drawing paper, 0 to 1.
+const Sheet& paperGrain();
+
+/// Soft patches, 0 to 1, about a tenth of the sheet wide; they go on over its borders.
+const Sheet& patches();
 
 }  // namespace nerida

@@ -1,5 +1,6 @@
 #include "host/render/frame.h"
-#include "host/render/shaders.h"
+#include "host/render/graphic_shaders.h"
+#include "host/render/hand_shaders.h"
 
 namespace nerida {
 namespace {
@@ -169,21 +170,36 @@ void shadeSurfaces(const Mesh& mesh, const Look& look, Frame& frame, Picture& ta
   const PlainGround ground{pixelFromRgb(colors.background)};
   const Vec3 paper = linearFromRgb(colors.background), ink = linearFromRgb(colors.line);
   const auto paint = [&](const auto& shader) { SurfacePainter(mesh, frame, shader, colors.surface).paint(target); };
+  const float unit = frame.unit;
+  const Vec2 center{static_cast<float>(frame.width) / 2, static_cast<float>(frame.height) / 2};
+  const float radius = std::min(center.x, center.y);
   switch (look.style->shading) {
     case Shading::none:
       return paint(NoShader{ground, paper});
+    case Shading::flat:
+      return paint(FlatShader{ground});
     case Shading::facets:
       return paint(FacetShader{ground, lamp});
     case Shading::smooth:
       return paint(SmoothShader{ground, lamp});
+    case Shading::clay:
+      return paint(ClayShader{lamp, paper, center, radius});
+    case Shading::silhouette:
+      return paint(SilhouetteShader{lamp, paper, center, radius});
     case Shading::paper:
       return paint(PaperShader{ground, lamp});
     case Shading::cartoon:
       return paint(CartoonShader{ground, lamp});
-    case Shading::pencil:
-      return paint(PencilShader{lamp, paper, ink, frame.unit, {}});
+    case Shading::halftone:
+      return paint(HalftoneShader{lamp, paper, std::max(4.5F, 6.5F * unit), center.y * 2});
     case Shading::blueprint:
-      return paint(BlueprintShader{lamp, paper, ink, std::max(8, static_cast<int>(24 * frame.unit)), {}});
+      return paint(BlueprintShader{lamp, paper, ink, std::max(8, static_cast<int>(24 * unit))});
+    case Shading::pencil:
+      return paint(PencilShader{lamp, paper, ink, look.surface ? 0.6F : 0.16F, unit});
+    case Shading::chalk:
+      return paint(ChalkShader{lamp, paper, unit});
+    case Shading::watercolor:
+      return paint(WatercolorShader{lamp, paper, unit});
   }
 }
 

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "host/render/noise.h"
 #include "host/render/tone.h"
 #include "host/render/vec.h"
 
 // One small struct for each way of filling a surface: how a point of it looks, and the ground behind the model.
-// All of them work in linear light, in the viewer's axes (x right, y up, z to the viewer).
+// All of them work in linear light, in the viewer's axes (x right, y up, z to the viewer). Here are those that imitate
+// light; those that imitate print and a hand are in graphic_shaders.h and hand_shaders.h.
 
 namespace nerida {
 
@@ -34,6 +34,9 @@ struct Lamp {
 /// The light that comes from everywhere: more from above than from below.
 inline float skyLight(Vec3 normal) { return 0.75F + 0.25F * normal.y; }
 
+/// 0 = the surface faces the viewer, 1 = it is seen from the side.
+inline float edgeOn(Vec3 normal) { return 1 - std::clamp(normal.z, 0.0F, 1.0F); }
+
 inline float brightnessOf(Vec3 color) { return 0.2126F * color.x + 0.7152F * color.y + 0.0722F * color.z; }
 
 struct PlainGround {
@@ -46,6 +49,10 @@ struct NoShader : PlainGround {
   [[nodiscard]] Vec3 operator()(const SurfacePoint&) const { return ground; }
 };
 
+struct FlatShader : PlainGround {
+  [[nodiscard]] Vec3 operator()(const SurfacePoint& p) const { return p.color; }
+};
+
 struct FacetShader : PlainGround {
   Lamp lamp;
   [[nodiscard]] Vec3 operator()(const SurfacePoint& p) const {
@@ -56,8 +63,8 @@ struct FacetShader : PlainGround {
 struct SmoothShader : PlainGround {
   Lamp lamp;
   [[nodiscard]] Vec3 operator()(const SurfacePoint& p) const {
-    const float edgeOn = 1 - std::clamp(p.normal.z, 0.0F, 1.0F);
-    const float rim = edgeOn * edgeOn * edgeOn * 0.10F * (0.6F + 0.4F * p.normal.y);
+    const float side = edgeOn(p.normal);
+    const float rim = side * side * side * 0.10F * (0.6F + 0.4F * p.normal.y);
     const float sky = 0.24F * skyLight(p.normal) + 0.12F * std::max(0.0F, p.normal.z);
     const Vec3 coolSky{sky * 0.94F, sky * 0.98F, sky * 1.08F};
     const float sun = 0.80F * lamp.reach(p.normal);
@@ -76,80 +83,55 @@ struct SmoothShader : PlainGround {
   }
 };
 
-struct PaperShader : PlainGround {
+struct ClayShader {
   Lamp lamp;
-  [[nodiscard]] Vec3 operator()(const SurfacePoint& p) const {
-    const float light = lamp.on ? lamp.reach(p.normal) : 0.35F;
-    const float shade = std::clamp((0.30F - light) * 4, 0.0F, 1.0F);
-    return mix(p.color, p.color * Vec3{0.62F, 0.66F, 0.74F}, shade * 0.75F);
-  }
-};
-
-struct CartoonShader : PlainGround {
-  Lamp lamp;
-  [[nodiscard]] Vec3 operator()(const SurfacePoint& p) const {
-    const float light = lamp.reach(p.normal);
-    const Vec3 dark = p.color * Vec3{0.36F, 0.33F, 0.46F};
-    const Vec3 middle = p.color * 0.80F;
-    const Vec3 bright = mix(p.color, {1, 1, 1}, 0.10F);
-    Vec3 tone = mix(dark, middle, step(light, 0.22F));
-    tone = mix(tone, bright, step(light, 0.62F));
-    return lamp.on ? mix(tone, {1, 1, 1}, 0.65F * step(dot(p.normal, lamp.halfway), 0.972F)) : tone;
-  }
-
- private:
-  /// A step that is a little soft, so that the border between two tones has no teeth.
-  static float step(float value, float threshold) { return std::clamp((value - threshold) * 60 + 0.5F, 0.0F, 1.0F); }
-};
-
-struct PencilShader {
-  Lamp lamp;
-  Vec3 paper, lead;
-  float unit = 1;  ///< pixels between hatches grow with the picture
+  Vec3 backdrop;
+  Vec2 center;
+  float radius = 1;  ///< pixels from the middle to the nearest border
   ToneEncoder encode{};
 
-  [[nodiscard]] std::uint32_t background(int x, int y) const { return encode(paper * (1 - 0.1F * paperGrain(x, y))); }
-
-  [[nodiscard]] Vec3 operator()(const SurfacePoint& p) const {
-    const float light =
-        (0.30F * skyLight(p.normal) + 0.85F * lamp.reach(p.normal)) * (0.45F + 0.55F * brightnessOf(p.color));
-    const float dark = std::clamp(1 - 1.3F * light, 0.0F, 1.0F);
-    const float tooth = 0.55F + 0.45F * grain(static_cast<int>(p.x), static_cast<int>(p.y));
-    const float shake = dark > 0 ? 2.0F * unit * softGrain(p.x * 0.04F / unit, p.y * 0.04F / unit) : 0;
-    float lines = hatch(p.x + p.y + shake, dark * 1.25F - 0.12F);
-    lines = std::max(lines, hatch(p.x - p.y * 0.55F - shake, dark * 1.5F - 0.72F));
-    lines = std::max(lines, 0.35F * dark * dark);
-    return mix(mix(paper, p.color, 0.16F), lead, std::min(lines * tooth, 0.92F));
+  /// A studio's paper roll, a little darker around.
+  [[nodiscard]] std::uint32_t background(int x, int y) const {
+    const float dx = (static_cast<float>(x) - center.x) / radius, dy = (static_cast<float>(y) - center.y) / radius;
+    return encode(backdrop * (1.06F - 0.09F * std::min(dx * dx + dy * dy, 3.0F)));
   }
 
- private:
-  /// Strokes side by side in the direction of `across`: the darker, the broader.
-  [[nodiscard]] float hatch(float across, float dark) const {
-    if (dark <= 0) return 0;
-    const float period = std::max(4.5F, 5.2F * unit);
-    const float phase = across / period - std::floor(across / period);
-    const float fromMiddle = std::fabs(phase - 0.5F) * 2;
-    return std::clamp((std::min(dark, 0.9F) - fromMiddle) * period * 0.35F + 0.3F, 0.0F, 0.85F);
+  [[nodiscard]] Vec3 operator()(const SurfacePoint& p) const {
+    const float side = edgeOn(p.normal), sun = lamp.reach(p.normal);
+    const float sky = (0.06F + 0.16F * std::max(0.0F, p.normal.z)) * skyLight(p.normal);
+    const Vec3 warmth =
+        Vec3{0.10F, 0.035F, 0.0F} * (sun * (1 - sun) * 4);  // light that went through the rim of the clay
+    const float bloom = 0.16F * side * side * sun;
+    return p.color * (Vec3{sky, sky, sky * 1.06F} + Vec3{sun, sun * 0.97F, sun * 0.92F} + warmth) +
+           Vec3{bloom, bloom, bloom};
   }
 };
 
-struct BlueprintShader {
+/// Against the light: the lamp is a sun behind the model.
+struct SilhouetteShader {
   Lamp lamp;
-  Vec3 paper, ink;
-  int cell = 24;  ///< pixels between the grid's lines
+  Vec3 sky;
+  Vec2 center;
+  float radius = 1;  ///< pixels from the middle to the nearest border
   ToneEncoder encode{};
 
   [[nodiscard]] std::uint32_t background(int x, int y) const {
-    const bool strong = x % (cell * 5) == 0 || y % (cell * 5) == 0;
-    const bool line = x % cell == 0 || y % cell == 0;
-    return encode(mix(paper, ink, strong ? 0.16F : line ? 0.07F : 0.0F));
+    if (!lamp.on) return encode(sky * 0.55F);
+    constexpr float height = 0.62F, disc = 0.26F;
+    const float dx = (static_cast<float>(x) - center.x) / radius - lamp.direction.x * height;
+    const float dy = (static_cast<float>(y) - center.y) / radius + lamp.direction.y * height;
+    const float away = std::sqrt(dx * dx + dy * dy);
+    const float haze = std::max(0.0F, 1 - away), sun = std::clamp((disc - away) * radius + 0.5F, 0.0F, 1.0F);
+    return encode(mix(mix(sky, glow, 0.75F * haze * haze), {1, 0.97F, 0.86F}, sun));
   }
 
   [[nodiscard]] Vec3 operator()(const SurfacePoint& p) const {
-    const float edgeOn = 1 - std::clamp(p.normal.z, 0.0F, 1.0F);
-    const float glow = 0.02F + 0.20F * edgeOn * edgeOn + 0.12F * lamp.reach(p.normal);
-    return mix(mix(paper, p.color, 0.55F), ink, glow);
+    const float side = edgeOn(p.normal);
+    return mix(p.color, glow, 0.85F * side * side * side * lamp.reach(p.normal));
   }
+
+ private:
+  static constexpr Vec3 glow{1, 0.80F, 0.45F};
 };
 
 }  // namespace nerida

@@ -9,13 +9,19 @@ namespace nerida {
 
 /// How the surfaces are filled.
 enum class Shading {
-  none,       ///< background shows through; surfaces still hide what lies behind them
-  facets,     ///< one tone for each facet, matte
-  smooth,     ///< soft light with a highlight
-  paper,      ///< surface colour with a hint of shade
-  cartoon,    ///< a few flat tones
-  pencil,     ///< hatching on paper grain
-  blueprint,  ///< grid, faint glow at the rims
+  none,        ///< background shows through; surfaces still hide what lies behind them
+  flat,        ///< one even tone, as cut out of paper
+  facets,      ///< one tone for each facet, matte
+  smooth,      ///< soft light with a highlight
+  clay,        ///< matte and warm, before a studio's backdrop
+  silhouette,  ///< dark against a low sun
+  paper,       ///< surface colour with a hint of shade
+  cartoon,     ///< a few flat tones
+  halftone,    ///< tones out of dots
+  blueprint,   ///< grid, faint glow at the rims
+  pencil,      ///< hatching on paper grain
+  chalk,       ///< broad strokes on a wiped board
+  watercolor,  ///< washes that dry darkest at their borders
 };
 
 /// Which lines are drawn.
@@ -26,7 +32,9 @@ struct Lines {
   float width = 1.5F;         ///< pixels of a 480 pixel high picture at 100 % thickness
   float contourBoost = 1.0F;  ///< contours are this much thicker than the rest
   float hiddenOpacity = 0;    ///< 0 = hidden lines are not drawn
+  float hiddenDash = 0;       ///< pixels of a 480 pixel high picture; 0 = hidden lines are not broken
   float wobble = 0;           ///< 0 = drawn with a ruler, 1 = by hand
+  float grain = 0;            ///< how much of a line the valleys of the paper do not take
 };
 
 /// A named way of drawing. A new style is one more row of the table in style.cpp.

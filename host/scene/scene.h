@@ -73,9 +73,6 @@ class Scene {
   [[nodiscard]] int lineThicknessScale() const { return lineThickness; }  ///< per cent
   void setLineThicknessScale(int percent);                                ///< clamped to 50..300
 
-  /// 1 = no surface colour, 2 = no line colour, 4 and 16 = line thickness; free for whoever owns the scene.
-  int interfaceFlags = 0;
-
   // Light.
   bool lightIsOn = true;
   [[nodiscard]] LightDirection lightDirection() const { return light; }

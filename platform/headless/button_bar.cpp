@@ -40,7 +40,7 @@ void Bar::openLayout(const std::string& layoutName) {
 
 void Bar::addButton(const std::string& key, const std::string& bitmapSpec) {
   const BitmapSpec bitmap = parseBitmapSpec(bitmapSpec);
-  std::vector<Button>& buttons = layouts.at(openedLayout).buttons;
+  std::vector<Button>& buttons = opened().buttons;
   if (std::any_of(buttons.begin(), buttons.end(), [&](const Button& button) { return button.key == key; })) {
     throw Error(error::invalidCall);
   }
@@ -48,7 +48,17 @@ void Bar::addButton(const std::string& key, const std::string& bitmapSpec) {
   note("add " + key);
 }
 
-Bar::Button& Bar::lastAdded() { return layouts.at(openedLayout).buttons.back(); }
+Bar::Layout& Bar::opened() {
+  const auto found = layouts.find(openedLayout);
+  if (found == layouts.end()) throw Error(error::invalidCall);
+  return found->second;
+}
+
+Bar::Button& Bar::lastAdded() {
+  std::vector<Button>& buttons = opened().buttons;
+  if (buttons.empty()) throw Error(error::invalidCall);
+  return buttons.back();
+}
 
 void Bar::setTooltip(const std::string& text) {
   lastAdded().tooltip = text;
@@ -61,7 +71,7 @@ void Bar::setCaption(const std::string& text) {
 }
 
 void Bar::recomputeLayout() {
-  layouts.at(openedLayout).laidOut = true;
+  for (auto& [layoutName, layout] : layouts) layout.laidOut = true;
   note("lay out");
 }
 

@@ -71,6 +71,7 @@ class Bar : public ButtonBar {
 
  private:
   void note(const std::string& what) { transcript.add(name + ": " + what); }
+  Layout& opened();
   Button& lastAdded();
   Button* find(const std::string& key);
 

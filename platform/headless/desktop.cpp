@@ -8,8 +8,10 @@ void Screen::setMousePointer(MousePointer value) {
 }
 
 Point Screen::screenToClient(WindowHandle window, Point screen) {
-  if (window != hostWindow) return {};
-  return {screen.x - hostClientCorner.x, screen.y - hostClientCorner.y};
+  std::optional<Point> corner;
+  if (window == hostWindow) corner = hostClientCorner;
+  if (!corner && ownClientCorner) corner = ownClientCorner(window);
+  return corner ? Point{screen.x - corner->x, screen.y - corner->y} : Point{};
 }
 
 void Screen::setForegroundWindow(WindowHandle window) { transcript.add("foreground " + std::to_string(window)); }

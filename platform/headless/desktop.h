@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "platform/desktop.h"
@@ -27,6 +28,8 @@ class Screen : public Desktop {
   WindowHandle active = 0;      // follows the windows that are shown and hidden
   WindowHandle hostWindow = 7;  // the one window of others that exists
   Point hostClientCorner;       // its client area on the screen
+  // Where the client area of one of our own windows begins; nothing for a window that is not ours.
+  std::function<std::optional<Point>(WindowHandle)> ownClientCorner;
 
  private:
   Transcript& transcript;

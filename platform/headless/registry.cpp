@@ -4,7 +4,14 @@ namespace nerida::headless {
 namespace {
 
 constexpr long notFound = 2;
+constexpr long moreData = 234;
 constexpr long noMoreItems = 259;
+constexpr std::size_t nameCapacity = 255;
+constexpr std::size_t dataCapacity = 256;
+
+long statusOf(const RegistryValue& value) {
+  return value.name.size() > nameCapacity || value.data.size() > dataCapacity ? moreData : 0;
+}
 
 class MemoryKey : public RegistryKey {
  public:
@@ -27,8 +34,10 @@ class MemoryKey : public RegistryKey {
     }
     const std::vector<RegistryValue>& values = registry.keys.at(path);
     const auto position = static_cast<std::size_t>(index);
-    status = position < values.size() ? 0 : noMoreItems;
-    return status == 0 ? std::optional(values[position]) : std::nullopt;
+    status = position < values.size() ? statusOf(values[position]) : noMoreItems;
+    if (status != 0) return std::nullopt;
+    const RegistryValue& found = values[position];
+    return RegistryValue{found.name, found.data.substr(0, found.data.find('\0'))};
   }
 
  private:

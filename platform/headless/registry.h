@@ -8,7 +8,7 @@
 
 namespace nerida::headless {
 
-// A registry of keys by their full path ("Software\Tarnwell").
+// A registry of keys by their full path ("Software\Tarnwell"), with all the bytes of their values.
 class MemoryRegistry : public Registry {
  public:
   std::unique_ptr<RegistryKey> openLocalMachine() override;

@@ -29,14 +29,19 @@ FormWindow::FormWindow(Windows& windows, const FormLayout& layout, WindowHandle 
   note("load");
 }
 
-FormWindow::~FormWindow() {
+// The system's window, too, goes without a further event. The object stays with the others that have gone: it may be
+// inside one of its own events.
+void FormWindow::dispose() {
   for (const auto& [key, picture] : pictures) {
     if (windows.focus.holder == picture.get()) windows.focus.holder = nullptr;
   }
   if (windows.active == this) windows.active = nullptr;
   if (windows.activeBefore == this) windows.activeBefore = nullptr;
   std::erase(windows.living, this);
+  visible = false;
+  disposed = true;
   note("unload");
+  windows.gone.emplace_back(this);
 }
 
 void FormWindow::createControls() {
@@ -153,24 +158,23 @@ int FormWindow::popUpMenuRightAligned(std::span<const char* const> captions, Twi
   return choice;
 }
 
-void FormWindow::userCloses() {
-  if (closeRequested) closeRequested();
+void FormWindow::raise(const std::function<void()>& event) {
+  if (!disposed && event) event();
 }
+
+void FormWindow::userCloses() { raise(closeRequested); }
 
 void FormWindow::userActivates() { windows.activate(this); }
 
-void FormWindow::userMovesPointer() {
-  if (mouseMoved) mouseMoved();
-}
+void FormWindow::userMovesPointer() { raise(mouseMoved); }
 
-void FormWindow::userClicks() {
-  if (clicked) clicked();
-}
+void FormWindow::userClicks() { raise(clicked); }
 
 std::shared_ptr<Window> Windows::create(const FormLayout& layout) {
   const auto failure = creationFailures.find(layout.name);
   if (failure != creationFailures.end()) throw Error(failure->second);
-  return std::make_shared<FormWindow>(*this, layout, nextHandle++);
+  auto form = std::make_unique<FormWindow>(*this, layout, nextHandle++);
+  return {form.release(), [](FormWindow* leaving) { leaving->dispose(); }};
 }
 
 FormWindow* Windows::find(const std::string& name) const {
@@ -185,9 +189,9 @@ void Windows::activate(FormWindow* window) {
   if (active == window) return;
   FormWindow* before = std::exchange(active, window);
   if (activeChanged) activeChanged(window ? window->handle() : 0);
-  if (before && before->deactivated) before->deactivated();
+  if (before) before->raise(before->deactivated);
   if (focus.holder) focus.holder->loseFocus();
-  if (window && active == window && window->activated) window->activated();
+  if (window && active == window) window->raise(window->activated);
 }
 
 void Windows::activateElsewhere() {
@@ -198,6 +202,13 @@ void Windows::activateElsewhere() {
 void Windows::activateAgain() {
   FormWindow* window = std::exchange(activeBefore, nullptr);
   if (window && window->isVisible()) activate(window);
+}
+
+std::optional<Point> Windows::clientCornerOf(WindowHandle handle) const {
+  for (const FormWindow* window : living) {
+    if (window->handle() == handle) return window->clientOrigin();
+  }
+  return std::nullopt;
 }
 
 void Windows::activateApplication(bool activeNow) {

@@ -4,6 +4,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,7 +20,7 @@ class Windows;
 class FormWindow : public Window {
  public:
   FormWindow(Windows& windows, const FormLayout& layout, WindowHandle handle);
-  ~FormWindow() override;
+  void dispose();
 
   WindowHandle handle() const override { return number; }
   bool isVisible() const override { return visible; }
@@ -66,18 +67,21 @@ class FormWindow : public Window {
   std::intptr_t previousAnswer = 0;
 
  private:
+  friend class Windows;
   template <class C>
   using ByName = std::map<std::pair<std::string, int>, std::unique_ptr<C>>;
   template <class C>
   C* find(ByName<C>& controls, const std::string& name, int index);
   void createControls();
   void setVisible(bool value);
+  void raise(const std::function<void()>& event);
   void note(const std::string& what);
 
   Windows& windows;
   WindowHandle number;
   Point topLeft;
   bool visible = false;
+  bool disposed = false;
   WindowProcedure hookProcedure;
   ByName<Bar> bars;
   ByName<Combo> combos;
@@ -95,11 +99,13 @@ class Windows : public WindowFactory {
 
   // The living window of that name, or null.
   FormWindow* find(const std::string& name) const;
+  std::optional<Point> clientCornerOf(WindowHandle window) const;
   // The application loses or gains the focus: every window of it is told.
   void activateApplication(bool active);
 
   Transcript& transcript;
   std::vector<FormWindow*> living;  // in order of creation
+  std::vector<std::unique_ptr<FormWindow>> gone;
   FormWindow* active = nullptr;
   KeyboardFocus focus;
   // Told of every change of the active window.

@@ -1,14 +1,23 @@
 #include "platform/win32/accessible.h"
 
+#include <string>
+
 namespace nerida {
 namespace {
+
+// Never looked for in the current directory.
+std::wstring systemFile(const wchar_t* name) {
+  std::wstring folder(MAX_PATH, L'\0');
+  folder.resize(GetSystemDirectoryW(folder.data(), static_cast<UINT>(folder.size())));
+  return folder + L'\\' + name;
+}
 
 // The caller releases what it is given.
 HRESULT describeAccessible(ITypeInfo** info) {
   static constexpr GUID library = {0x1ea4dbf0, 0x3c3b, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
   ITypeLib* types = nullptr;
   HRESULT status = LoadRegTypeLib(library, 1, 1, 0, &types);
-  if (FAILED(status)) status = LoadTypeLib(L"oleacc.dll", &types);
+  if (FAILED(status)) status = LoadTypeLib(systemFile(L"oleacc.dll").c_str(), &types);
   if (FAILED(status)) return E_NOTIMPL;
   status = types->GetTypeInfoOfGuid(IID_IAccessible, info);
   types->Release();

@@ -105,8 +105,7 @@ STDMETHODIMP PartsAccessible::get_accState(VARIANT child, VARIANT* state) {
   int index = wholeControl;
   const HRESULT status = resolve(child, index);
   if (FAILED(status)) return status;
-  const LONG ofControl = IsWindowVisible(control->window()) ? 0 : STATE_SYSTEM_INVISIBLE;
-  *state = number(index == wholeControl ? ofControl : static_cast<LONG>(parts.partStateFlags(index)));
+  *state = number(static_cast<LONG>(index == wholeControl ? parts.wholeStateFlags() : parts.partStateFlags(index)));
   return S_OK;
 }
 

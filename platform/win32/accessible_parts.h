@@ -14,6 +14,7 @@ class ControlParts {
   virtual ~ControlParts() = default;
   virtual std::wstring wholeName() const = 0;
   virtual LONG wholeRole() const = 0;
+  virtual DWORD wholeStateFlags() const = 0;
   virtual int partCount() const = 0;
   virtual std::wstring partName(int part) const = 0;
   virtual DWORD partStateFlags(int part) const = 0;

@@ -44,7 +44,7 @@ Outcome invokeWithReferences(IDispatch& object, DISPID member, CallFrame& frame,
 // Every access holds a reference of its own: the model may make the library let go of it while it runs.
 template <typename Access>
 auto guardedAccess(const ComPtr<IDispatch>& dispatch, Access access) {
-  const ComPtr<IDispatch> held = dispatch;
+  const ComPtr<IDispatch> held(dispatch.get());
   try {
     return access(*held.get());
   } catch (const std::bad_alloc&) {

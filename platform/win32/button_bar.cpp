@@ -34,6 +34,7 @@ void SystemButtonBar::setEnabled(bool enable) {
   enabled = enable;
   cancelPress();
   InvalidateRect(window(), nullptr, FALSE);
+  NotifyWinEvent(EVENT_OBJECT_STATECHANGE, window(), OBJID_CLIENT, CHILDID_SELF);
 }
 
 void SystemButtonBar::setResourceFolder(const std::string& name) {
@@ -165,6 +166,13 @@ bool SystemButtonBar::isInSight(int index) const {
   if (!IsWindowVisible(window())) return false;
   const RECT& area = button(index).area;
   return isReachable({(area.left + area.right) / 2, (area.top + area.bottom) / 2});
+}
+
+DWORD SystemButtonBar::stateFlags() const {
+  DWORD flags = 0;
+  if (!IsWindowVisible(window())) flags |= STATE_SYSTEM_INVISIBLE;
+  if (!enabled) flags |= STATE_SYSTEM_UNAVAILABLE;
+  return flags;
 }
 
 DWORD SystemButtonBar::buttonStateFlags(int index) const {

@@ -56,6 +56,7 @@ class SystemButtonBar final : public ControlOf<ButtonBar>, private ControlParts 
   int buttonCount() const;
   const BarButton& button(int index) const;
   std::wstring buttonName(int index) const;  // the accessible name, else the tooltip, the caption, the key
+  DWORD stateFlags() const;                  // of the bar as a whole
   DWORD buttonStateFlags(int index) const;
   bool canPress(int index) const;  // usable, in sight and not waiting for a modal window
   int buttonAt(POINT point) const;
@@ -69,6 +70,7 @@ class SystemButtonBar final : public ControlOf<ButtonBar>, private ControlParts 
   LONG wholeRole() const override { return ROLE_SYSTEM_TOOLBAR; }
   int partCount() const override { return buttonCount(); }
   std::wstring partName(int part) const override { return buttonName(part); }
+  DWORD wholeStateFlags() const override { return stateFlags(); }
   DWORD partStateFlags(int part) const override { return buttonStateFlags(part); }
   RECT partArea(int part) const override { return button(part).area; }
   int partAt(POINT point) const override { return buttonAt(point); }
@@ -89,6 +91,7 @@ class SystemButtonBar final : public ControlOf<ButtonBar>, private ControlParts 
   void announce(DWORD event, int index) const;
 
   // Mouse and keyboard.
+  void offerTooltip(POINT point);
   void onMouseMove(POINT point);
   void onMouseLeave();
   void onActivatingPress();

@@ -12,6 +12,7 @@ namespace nerida {
 LRESULT SystemButtonBar::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   const POINT point = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
   if (tooltipsShown && message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
+    offerTooltip(point);
     form().tooltips().relay(window(), message, wParam, lParam);
   }
   switch (message) {
@@ -94,12 +95,16 @@ void SystemButtonBar::onMouseMove(POINT point) {
   // While a button is held, no other one answers to the pointer.
   const bool answers = isUsable(under) && (pressed == none || pressed == under);
   setHot(answers ? under : none);
-  if (under != none && tooltipsShown && !button(under).tooltip.empty()) {
-    form().tooltips().offer(window(), static_cast<unsigned>(under), button(under).area, button(under).tooltip);
-  }
   if (!form().pointerMoved(window(), point)) return;
   arriving = none;
   if (under != none) form().raise(buttonMouseMove, std::string(button(under).key));  // the handler may show others
+}
+
+// Before the tooltip window hears of the pointer, which may rest here at once.
+void SystemButtonBar::offerTooltip(POINT point) {
+  const int under = buttonAt(point);
+  if (under == none || button(under).tooltip.empty()) return;
+  form().tooltips().offer(window(), static_cast<unsigned>(under), button(under).area, button(under).tooltip);
 }
 
 void SystemButtonBar::onMouseLeave() {

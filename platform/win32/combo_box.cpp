@@ -1,5 +1,7 @@
 #include "platform/win32/combo_box.h"
 
+#include <algorithm>
+
 #include "platform/error.h"
 #include "platform/win32/accessible_name.h"
 #include "platform/win32/form_window.h"
@@ -17,15 +19,23 @@ SystemComboBox::SystemComboBox(FormWindow& owner, const ControlLayout& row) : Co
   fitHeight();
 }
 
-// A combo box takes its height from its entries, not from its rectangle.
+// A combo box takes its height from its entries, not from its rectangle. The text must stay whole in any case.
 void SystemComboBox::fitHeight() {
-  const RECT wanted = form().scale().pixels(layout().bounds);
+  const RECT wanted = area();
   RECT actual = {};
   GetWindowRect(window(), &actual);
   const LRESULT item = send(CB_GETITEMHEIGHT, static_cast<WPARAM>(-1));
   const LRESULT edges = actual.bottom - actual.top - item;
   const LRESULT fitting = wanted.bottom - wanted.top - edges;
-  if (fitting > 0) send(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), fitting);
+  send(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), std::max<LRESULT>(fitting, textHeight()));
+}
+
+int SystemComboBox::textHeight() const {
+  const HDC dc = form().backBuffer().context();
+  const Selected font(dc, form().font());
+  TEXTMETRICW metrics = {};
+  GetTextMetricsW(dc, &metrics);
+  return metrics.tmHeight;
 }
 
 LRESULT SystemComboBox::send(UINT message, WPARAM wParam, LPARAM lParam) const {

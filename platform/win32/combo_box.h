@@ -20,6 +20,7 @@ class SystemComboBox final : public ControlOf<ComboBox> {
   void onCommand(WORD notification) override;
   bool takesFocus() const override;
   void fitHeight();
+  int textHeight() const;  // in pixels
   LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
 
   int current = -1;  // as last reported: the system tells of its own changes only, and also of none

@@ -41,10 +41,12 @@ void FormWindow::hook(WindowProcedure procedure) {
 }
 
 void FormWindow::installHook() {
-  const auto front = reinterpret_cast<LONG_PTR>(hookProcedure);
-  if (GetWindowLongPtrW(hwnd, GWLP_WNDPROC) == front) return;  // still there: see unhook
-  const LONG_PTR previous = SetWindowLongPtrW(hwnd, GWLP_WNDPROC, front);
-  if (previous != front) behindHook = reinterpret_cast<WNDPROC>(previous);
+  const auto first = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(hwnd, GWLP_WNDPROC));
+  const bool wasCutOff = first == behindHook;
+  if (inChain && !wasCutOff) return;  // still there: see unhook
+  behindHook = first;
+  SetWindowLongPtrW(hwnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(hookProcedure));
+  inChain = true;
 }
 
 // Someone else may have put a procedure in front of ours meanwhile. It must not be cut off: then our procedure stays
@@ -55,6 +57,7 @@ void FormWindow::unhook() {
   if (hwnd == nullptr) return;
   if (GetWindowLongPtrW(hwnd, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(hookProcedure)) {
     SetWindowLongPtrW(hwnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(behindHook));
+    inChain = false;
   }
 }
 

@@ -1,5 +1,6 @@
 #include "platform/win32/form_window.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "platform/error.h"
@@ -78,6 +79,7 @@ void FormWindow::realize() {
   try {
     if (hwnd == nullptr) throw Error(error::outOfMemory);
     tips.emplace(hwnd);
+    fitRows();
     createControls(layout.controls);
   } catch (...) {
     discardWindows();
@@ -100,9 +102,30 @@ FormWindow::~FormWindow() {
   if (hwnd != nullptr) DestroyWindow(hwnd);
 }
 
+// The height of the whole window is fixed, and the desktop's captions take more or less of it. Where they take too
+// much, the rows move together, so that what is in sight for its greater part is so as a whole.
+void FormWindow::fitRows() {
+  RECT client = {};
+  GetClientRect(hwnd, &client);
+  if (frame != FormFrame::toolWindow || client.bottom <= 0) return;
+  rowsHave = rowsNeed = client.bottom;
+  for (const ControlLayout& row : layout.controls) {
+    const RECT at = screenScale.pixels(row.bounds);
+    if ((at.top + at.bottom) / 2 < client.bottom) rowsNeed = std::max<int>(rowsNeed, at.bottom);
+  }
+}
+
+RECT FormWindow::place(const Bounds& bounds) const {
+  RECT at = screenScale.pixels(bounds);
+  at.top = at.top * rowsHave / rowsNeed;
+  at.bottom = at.bottom * rowsHave / rowsNeed;
+  return at;
+}
+
 // The first child is the topmost. On a popup controls lie on a panel, a picture that its layout lists behind them; on
 // other forms pictures lie over the other controls, wherever they stand in the layout.
 void FormWindow::createControls(std::span<const ControlLayout> rows) {
+  controls.reserve(rows.size());  // a control that has its window must find its place
   const auto isInFront = [this](const ControlLayout& row) {
     return frame == FormFrame::popup || row.kind == ControlKind::pictureBox;
   };

@@ -56,6 +56,8 @@ class FormWindow final : public Window {
   const Scale& scale() const { return screenScale; }
   BackBuffer& backBuffer() { return buffer; }
   Tooltips& tooltips() { return *tips; }
+  // Where a part of the layout lies on the form, in pixels of its client area.
+  RECT place(const Bounds& bounds) const;
   // The topmost control at a point of the client area.
   const NativeControl* controlAt(POINT point) const;
   // Whether the pointer has moved since the last time: the system also tells of moves when a window came or went below
@@ -114,6 +116,7 @@ class FormWindow final : public Window {
   void onActivate(bool active);
   void rememberFocus();
   void moveFocus(const NativeControl* from, bool backward);
+  void fitRows();
   void createControls(std::span<const ControlLayout> rows);
   NativeControl* controlOf(HWND window) const;
   void leaveUnreachableFocus();
@@ -132,6 +135,8 @@ class FormWindow final : public Window {
   std::vector<std::unique_ptr<NativeControl>> controls;
   HWND hwnd = nullptr;
   std::optional<Tooltips> tips;
+  int rowsNeed = 1;  // pixels that the rows in sight were laid out for, and pixels that there are
+  int rowsHave = 1;
   HWND lastFocus = nullptr;
   std::optional<POINT> lastPointer;  // on the screen
   bool focusShown = false;
@@ -139,6 +144,7 @@ class FormWindow final : public Window {
 
   std::shared_ptr<const WindowProcedure> hooked;
   WNDPROC behindHook = nullptr;
+  bool inChain = false;  // of the window's procedures, hooked or not
 
   bool modal = false;
   std::vector<HWND> disabledForModal;

@@ -13,7 +13,7 @@ std::wstring NativeControl::accessibleName() const { return wide(*place.tooltip 
 
 HWND NativeControl::createWindow(const wchar_t* windowClass, const wchar_t* text, DWORD style, DWORD extendedStyle,
                                  int height, void* parameter) {
-  const RECT at = parent.scale().pixels(place.bounds);
+  const RECT at = area();
   const HWND window =
       CreateWindowExW(extendedStyle | WS_EX_NOPARENTNOTIFY, windowClass, text,
                       style | WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, at.left, at.top, at.right - at.left,
@@ -51,7 +51,7 @@ void NativeControl::show(bool visible) {
   ShowWindow(handle, visible ? SW_SHOWNA : SW_HIDE);
 }
 
-RECT NativeControl::area() const { return parent.scale().pixels(place.bounds); }
+RECT NativeControl::area() const { return parent.place(place.bounds); }
 
 bool NativeControl::isReachable(POINT point) const {
   const RECT at = area();

@@ -28,7 +28,8 @@ void SystemPictureBox::setTooltip(const std::string& text) {
   offeredName.clear();
 }
 
-// In memory first: what changes under the pointer must not flicker.
+// In memory first: what changes under the pointer must not flicker. The drawing keeps its size; where the box is lower
+// than it was laid out, its middle is seen.
 void SystemPictureBox::draw(HDC target) {
   const SIZE extent = size();
   if (extent.cx <= 0 || extent.cy <= 0) return;
@@ -36,8 +37,12 @@ void SystemPictureBox::draw(HDC target) {
   buffer.canvas(extent.cx, extent.cy);  // room for it
   const RECT whole = {0, 0, extent.cx, extent.cy};
   FillRect(buffer.context(), &whole, GetSysColorBrush(COLOR_BTNFACE));
+  const int lost = form().scale().pixelsY(layout().bounds.height) - static_cast<int>(extent.cy);
+  POINT origin = {};
+  OffsetViewportOrgEx(buffer.context(), 0, -lost / 2, &origin);
   SystemCanvas canvas(buffer.context(), form().scale());
   form().raise(paint, static_cast<Canvas&>(canvas));
+  SetViewportOrgEx(buffer.context(), origin.x, origin.y, nullptr);
   buffer.copyTo(target, extent.cx, extent.cy);
 }
 

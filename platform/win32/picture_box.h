@@ -38,6 +38,7 @@ class SystemPictureBox final : public ControlOf<PictureBox>, private ControlPart
   LONG wholeRole() const override { return ROLE_SYSTEM_GROUPING; }
   int partCount() const override { return static_cast<int>(currentParts().size()); }
   std::wstring partName(int part) const override;
+  DWORD wholeStateFlags() const override;
   DWORD partStateFlags(int part) const override;
   RECT partArea(int part) const override;
   int partAt(POINT point) const override;

@@ -143,6 +143,13 @@ RECT SystemPictureBox::partArea(int part) const {
   return found ? form().scale().pixels(found->place) : RECT{};
 }
 
+DWORD SystemPictureBox::wholeStateFlags() const {
+  DWORD flags = 0;
+  if (!IsWindowVisible(window())) flags |= STATE_SYSTEM_INVISIBLE;
+  if (!IsWindowEnabled(window())) flags |= STATE_SYSTEM_UNAVAILABLE;
+  return flags;
+}
+
 DWORD SystemPictureBox::partStateFlags(int part) const {
   const std::optional<DrawnPart> found = partOf(part);
   if (!found || !IsWindowVisible(window())) return STATE_SYSTEM_INVISIBLE | STATE_SYSTEM_UNAVAILABLE;

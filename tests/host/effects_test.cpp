@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "tests/host/pictures.h"
@@ -58,7 +59,8 @@ TEST(Effects, pixelsAreOpaqueAndBlueFirst) {
 }
 
 TEST(Effects, anExplicitSurfaceColorReplacesTheMaterials) {
-  for (const char* style : {"Basic Draw", "Shaded", "Flat Cartoon", "Ink Outline"}) {
+  for (const char* style : {"Basic Draw", "Shaded", "Clay", "Flat Cartoon", "Comic Halftone", "Watercolour",
+                            "Chalk on Board", "Ink Outline", "Hidden Line", "Silhouette"}) {
     Look look = lookOf(style);
     look.surface = makeRgb(30, 60, 220);
     look.light.direction = {0, 0, 100};
@@ -78,6 +80,49 @@ TEST(Effects, linesTakeTheirColor) {
   EXPECT_TRUE(found);
 }
 
+TEST(Effects, surfacesShowTheirColorOnADarkGroundToo) {
+  for (const LookStyle& style : lookStyles()) {
+    if (!style.usesSurface()) continue;
+    Look look = lookOf("Shaded");
+    look.style = &style;
+    look.surface = makeRgb(30, 200, 60);
+    look.line = look.background = makeRgb(24, 20, 64);
+    look.light.direction = {0, 0, 100};
+    const Picture picture = draw(ball(0.9F, grey), look);
+    int green = 0, blue = 0;
+    for (int x = centerX + 10; x < centerX + 30; ++x) {
+      green += colorAt(picture, x, centerY + 18).green;
+      blue += colorAt(picture, x, centerY + 18).blue;
+    }
+    EXPECT_GT(green, blue + 20 * 30) << style.name;
+  }
+}
+
+TEST(Effects, everyStyleWithLinesDrawsThemInTheirColor) {
+  for (const LookStyle& style : lookStyles()) {
+    Look look = lookOf("Shaded");
+    look.style = &style;
+    const auto reddest = [&] {
+      const Picture picture = draw(box({0.5F, 0.5F, 0.5F}, grey), look);
+      int most = -255;
+      for (int x = 0; x < centerX; ++x) {
+        const Color color = colorAt(picture, x, centerY);
+        most = std::max(most, color.red - std::max(color.green, color.blue));
+      }
+      return most;
+    };
+    look.surface = makeRgb(120, 120, 120);
+    look.background = makeRgb(40, 40, 40);
+    look.lineThickness = 300;
+    look.line = makeRgb(240, 0, 0);
+    if (style.usesLines()) {
+      EXPECT_GT(reddest(), 150) << style.name;
+    } else {
+      EXPECT_LT(reddest(), 60) << style.name;
+    }
+  }
+}
+
 /// How much of the picture changed, in whole pixels from black to white.
 double changeOf(const Picture& a, const Picture& b) {
   double sum = 0;
@@ -89,7 +134,8 @@ double changeOf(const Picture& a, const Picture& b) {
 
 TEST(Effects, thickerLinesCoverMore) {
   const Mesh mesh = box({0.5F, 0.5F, 0.5F}, grey);
-  for (const char* style : {"Ink Outline", "Wireframe", "Flat Cartoon", "Pencil Sketch", "Blueprint"}) {
+  for (const char* style : {"Ink Outline", "Wireframe", "Flat Cartoon", "Comic Halftone", "Watercolour",
+                            "Pencil Sketch", "Chalk on Board", "Hidden Line", "Blueprint"}) {
     Look look = lookOf(style);
     const Picture plain = draw(mesh, look);
     const auto changeAt = [&](int thickness) {
@@ -103,31 +149,63 @@ TEST(Effects, thickerLinesCoverMore) {
   }
 }
 
+/// On average, so that single grains do not count.
+double brightnessAround(const Picture& picture, int x, int y) {
+  constexpr int reach = 4;
+  double sum = 0;
+  for (int down = -reach; down <= reach; ++down) {
+    for (int right = -reach; right <= reach; ++right) sum += brightnessAt(picture, x + right, y + down);
+  }
+  return sum / ((2 * reach + 1) * (2 * reach + 1));
+}
+
 TEST(Effects, theLitSideIsWhereTheLampIs) {
   struct Case {
     Vec3 lamp;
     int brightX, brightY;
   };
-  for (const char* style : {"Basic Draw", "Shaded"}) {
+  for (const char* style : {"Basic Draw", "Shaded", "Clay", "Comic Halftone", "Watercolour", "Chalk on Board"}) {
     Look look = lookOf(style);
     for (const Case& c : {Case{{-100, 0, 0}, -30, 0}, Case{{100, 0, 0}, 30, 0}, Case{{0, -100, 0}, 0, -30},
                           Case{{0, 100, 0}, 0, 30}, Case{{-100, -100, 50}, -20, -20}}) {
       look.light.direction = c.lamp;
       const Picture picture = draw(ball(0.9F, grey), look);
-      const double lit = brightnessAt(picture, centerX + c.brightX, centerY + c.brightY);
-      EXPECT_GT(lit, brightnessAt(picture, centerX - c.brightX, centerY - c.brightY) + 25)
+      const double lit = brightnessAround(picture, centerX + c.brightX, centerY + c.brightY);
+      EXPECT_GT(lit, brightnessAround(picture, centerX - c.brightX, centerY - c.brightY) + 25)
           << style << ", lamp at " << c.lamp.x << " " << c.lamp.y << " " << c.lamp.z;
     }
   }
 }
 
 TEST(Effects, switchingTheLightOffDarkens) {
-  for (const char* style : {"Basic Draw", "Shaded", "Flat Cartoon", "Pencil Sketch"}) {
+  for (const char* style : {"Basic Draw", "Shaded", "Clay", "Flat Cartoon", "Comic Halftone", "Watercolour",
+                            "Pencil Sketch", "Chalk on Board"}) {
     Look look = lookOf(style);
     const double lit = drawnPart(draw(ball(0.9F, grey), look)).brightness;
     look.light.on = false;
     EXPECT_LT(drawnPart(draw(ball(0.9F, grey), look)).brightness, lit - 10) << style;
   }
+}
+
+TEST(Effects, aCutOutDoesNotTakeTheLight) {
+  Look look = lookOf("Hidden Line");
+  const Picture lit = draw(ball(0.9F, grey), look);
+  look.light.on = false;
+  EXPECT_EQ(differences(lit, draw(ball(0.9F, grey), look), 0), 0);
+}
+
+TEST(Effects, theSunOfASilhouetteStandsWhereTheLampIs) {
+  Look look = lookOf("Silhouette");
+  const auto sunAt = [&](Vec3 lamp) {
+    look.light.direction = lamp;
+    return draw({}, look);
+  };
+  constexpr int away = 37;  // pixels from the middle to a sun at the side
+  EXPECT_GT(brightnessAt(sunAt({-100, 0, 0}), centerX - away, centerY), 230);
+  EXPECT_GT(brightnessAt(sunAt({0, 100, 0}), centerX, centerY + away), 230);
+  EXPECT_GT(brightnessAt(sunAt({0, 0, 100}), centerX, centerY), 230);
+  look.light.on = false;
+  EXPECT_LT(brightnessAt(draw({}, look), centerX, centerY), 130);
 }
 
 TEST(Effects, aLampWithoutDirectionIsHarmless) {
@@ -161,6 +239,25 @@ TEST(Effects, hiddenEdgesStayHiddenUnlessTheStyleShowsThem) {
   long marks = 0;
   for (int x = centerX - 20; x <= centerX + 20; ++x) marks += colorAt(wires, x, centerY) != Color{255, 255, 255};
   EXPECT_GT(marks, 0);
+}
+
+TEST(Effects, hiddenEdgesCanBeDashed) {
+  Mesh mesh = box({0.05F, 0.3F, 0.05F}, grey);
+  append(mesh, box({0.6F, 0.6F, 0.05F}, {1, 1, 1}), {0, 0, 0.5F});
+  findEdges(mesh);
+  const Look look = lookOf("Hidden Line");
+  const Picture picture = draw(mesh, look);
+  const Color board = colorOf(look.style->surface);
+  // Along the thin box's left edge behind the board: marks and gaps take turns.
+  int changes = 0;
+  bool marked = false;
+  for (int y = centerY - 12; y <= centerY + 12; ++y) {
+    bool mark = false;
+    for (int x = centerX - 6; x < centerX; ++x) mark |= colorAt(picture, x, y) != board;
+    changes += mark != marked;
+    marked = mark;
+  }
+  EXPECT_GE(changes, 6);
 }
 
 TEST(Effects, edgesAreSmooth) {

@@ -18,8 +18,11 @@ def windows_path(path):
 class Probe:
     """One helper program for the whole session; every question is a line."""
 
-    def __init__(self, program=ROOT / "build" / "windows-x86" / "tools" / "ui_probe" / "ui-probe.exe"):
-        self.process = subprocess.Popen(["wine", str(program)], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+    # Of 32 bits also for 64-bit programs: Wine's accessibility answers no 64-bit client, whatever the window.
+    PROGRAM = ROOT / "build" / "windows-x86" / "tools" / "ui_probe" / "ui-probe.exe"
+
+    def __init__(self):
+        self.process = subprocess.Popen(["wine", str(self.PROGRAM)], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
                                         stderr=subprocess.DEVNULL, text=True, encoding="utf-8")
         # The first program makes the desktop; another one that starts meanwhile may find none to show its windows on.
         wait_for(lambda: self.windows(class_name="Shell_TrayWnd", visible=False), what="the desktop")

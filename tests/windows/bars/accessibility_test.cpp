@@ -80,12 +80,33 @@ TEST_F(Accessibility, TellsStates) {
   EXPECT_EQ(seen.state(2) & (STATE_SYSTEM_PRESSED | STATE_SYSTEM_UNAVAILABLE), 0);
   world.setEnabled(false);
   EXPECT_NE(seen.state(2) & STATE_SYSTEM_UNAVAILABLE, 0);
+  EXPECT_NE(seen.state(0) & STATE_SYSTEM_UNAVAILABLE, 0);
   EXPECT_NE(seen.press(2), S_OK);
   world.setEnabled(true);
+  EXPECT_EQ(seen.state(0), 0);
   form->hide();
   EXPECT_NE(seen.state(2) & STATE_SYSTEM_INVISIBLE, 0);
   EXPECT_NE(seen.press(2), S_OK);
   EXPECT_TRUE(pressed.empty());
+}
+
+std::vector<LONG> stateChanges;
+
+void CALLBACK noteStateChange(HWINEVENTHOOK, DWORD, HWND, LONG, LONG child, DWORD, DWORD) {
+  stateChanges.push_back(child);
+}
+
+TEST_F(Accessibility, AnnouncesStatesThatChange) {
+  ButtonBar& world = form->buttonBar("barWorld", 0);
+  stateChanges.clear();
+  HWINEVENTHOOK hook = SetWinEventHook(EVENT_OBJECT_STATECHANGE, EVENT_OBJECT_STATECHANGE, moduleInstance(),
+                                       noteStateChange, GetCurrentProcessId(), 0, WINEVENT_INCONTEXT);
+  ASSERT_NE(hook, nullptr);
+  world.setState("Lighting", buttonDown, true);
+  world.setState("Lighting", buttonDown, true);
+  world.setEnabled(false);
+  UnhookWinEvent(hook);
+  EXPECT_EQ(stateChanges, (std::vector<LONG>{2, CHILDID_SELF}));
 }
 
 TEST_F(Accessibility, RefusesWhatAPictureCovers) {

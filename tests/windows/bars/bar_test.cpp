@@ -24,9 +24,10 @@ TEST_F(Bars, PressOnReleaseInsideTheSameButton) {
 
 TEST_F(Bars, DoNotPressWhenReleasedElsewhereOrRobbedOfTheMouse) {
   const HWND nudge = bar("barMove", 1);
+  const int nextButton = static_cast<int>(40 * screenDpi() / 96);
   send(nudge, WM_LBUTTONDOWN);
-  send(nudge, WM_MOUSEMOVE, 40);
-  send(nudge, WM_LBUTTONUP, 40);
+  send(nudge, WM_MOUSEMOVE, nextButton);
+  send(nudge, WM_LBUTTONUP, nextButton);
   send(nudge, WM_LBUTTONDOWN);
   SetCapture(window());
   ReleaseCapture();

@@ -56,6 +56,42 @@ TEST_F(Forms, FoldWithoutMoving) {
             (Size{width, static_cast<int>(std::nearbyint(foldedHeight.value * screenDpi() / 1440))}));
 }
 
+BOOL CALLBACK collectPlace(HWND child, LPARAM places) {
+  RECT place = {};
+  GetWindowRect(child, &place);
+  MapWindowPoints(nullptr, GetParent(child), reinterpret_cast<POINT*>(&place), 2);
+  reinterpret_cast<std::vector<RECT>*>(places)->push_back(place);
+  return TRUE;
+}
+
+// How many controls begin in the client area. Each of them must end there.
+int controlsInSight(const Window& shown) {
+  const HWND window = reinterpret_cast<HWND>(shown.handle());
+  RECT client = {};
+  GetClientRect(window, &client);
+  std::vector<RECT> places;
+  EnumChildWindows(window, collectPlace, reinterpret_cast<LPARAM>(&places));
+  int count = 0;
+  for (const RECT& place : places) {
+    if (place.top >= client.bottom) continue;
+    ++count;
+    EXPECT_LE(place.bottom, client.bottom);
+    EXPECT_GE(place.bottom - place.top, 16);
+  }
+  return count;
+}
+
+// A caption that is seven pixels higher takes as much from the controls as a form that is so much lower.
+TEST_F(Forms, ShowWholeRowsUnderAHighCaption) {
+  constexpr Twips lost = {7 * 15};
+  FormLayout tight = toolbarLayout;
+  tight.height = foldedHeight - lost;
+  const std::shared_ptr<Window> pressedTogether = factory.create(tight);
+  EXPECT_EQ(controlsInSight(*pressedTogether), 13);
+  pressedTogether->setHeight(unfoldedHeight - lost);
+  EXPECT_EQ(controlsInSight(*pressedTogether), static_cast<int>(tight.controls.size()));
+}
+
 TEST_F(Forms, HookOnceAndUnhookOnce) {
   const auto procedure = [&] { return GetWindowLongPtrW(window(), GWLP_WNDPROC); };
   const LONG_PTR own = procedure();
@@ -91,6 +127,51 @@ TEST_F(Forms, LetAHookTakeItselfOffAndStillPassOn) {
   SendMessageW(window(), WM_CLOSE, 0, 0);
   EXPECT_TRUE(closed);
   EXPECT_FALSE(form->isHooked());
+}
+
+WNDPROC behindStranger = nullptr;
+
+LRESULT CALLBACK strangersProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  return CallWindowProcW(behindStranger, window, message, wParam, lParam);
+}
+
+WNDPROC setProcedure(HWND window, WNDPROC procedure) {
+  return reinterpret_cast<WNDPROC>(SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
+}
+
+// A stranger that came after the first hook calls us: a second place in front of it would send messages in a circle.
+TEST_F(Forms, HookAgainBehindAStrangerThatCameBetween) {
+  int seen = 0;
+  const auto count = [&](const Message& message) {
+    ++seen;
+    return form->callPrevious(message);
+  };
+  form->hook(count);
+  behindStranger = setProcedure(window(), strangersProcedure);
+  form->unhook();
+  form->hook(count);
+  SendMessageW(window(), WM_NULL, 0, 0);
+  EXPECT_EQ(seen, 1);
+  form->unhook();
+  setProcedure(window(), behindStranger);
+  SendMessageW(window(), WM_NULL, 0, 0);
+  EXPECT_EQ(seen, 1);
+}
+
+// A stranger that came before the hook takes the hook off with itself when it leaves by what it had found.
+TEST_F(Forms, HookAgainAfterAStrangerHasCutTheHookOff) {
+  int seen = 0;
+  const auto count = [&](const Message& message) {
+    ++seen;
+    return form->callPrevious(message);
+  };
+  const auto own = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(window(), GWLP_WNDPROC));
+  form->hook(count);
+  setProcedure(window(), own);
+  form->unhook();
+  form->hook(count);
+  SendMessageW(window(), WM_NULL, 0, 0);
+  EXPECT_EQ(seen, 1);
 }
 
 TEST_F(Forms, KnowWhileTheApplicationLosesTheFocus) {

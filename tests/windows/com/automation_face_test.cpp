@@ -185,6 +185,81 @@ TEST_F(AutomationFace, RefusesWhatDoesNotFitWithoutEnteringTheMethod) {
   EXPECT_EQ(invoke(L"ToolbarHide", {number(1)}, &result), DISP_E_BADPARAMCOUNT);
 }
 
+// What a client sends for "ToolbarShow y:=40, x:=30".
+TEST_F(AutomationFace, TakesArgumentsByName) {
+  bind();
+  OLECHAR method[] = L"ToolbarShow";
+  OLECHAR second[] = L"y";
+  OLECHAR first[] = L"x";
+  OLECHAR* names[] = {method, second, first};
+  DISPID ids[3] = {};
+  ASSERT_EQ(control->GetIDsOfNames(IID_NULL, names, 3, LOCALE_USER_DEFAULT, ids), S_OK);
+  VARIANT values[] = {number(40), number(30)};
+  DISPPARAMS parameters = {values, ids + 1, 2, 2};
+  Variant window;
+  ASSERT_EQ(control->Invoke(ids[0], IID_NULL, 0, DISPATCH_METHOD, &parameters, &window, nullptr, nullptr), S_OK);
+  RECT place = {};
+  ASSERT_TRUE(GetWindowRect(reinterpret_cast<HWND>(static_cast<LONG_PTR>(window.lVal)), &place));
+  EXPECT_EQ(place.left, 30);
+  EXPECT_EQ(place.top, 40);
+}
+
+TEST_F(AutomationFace, RefusesNamesThatNoArgumentHas) {
+  bind();
+  VARIANT values[] = {number(40), number(30)};
+  DISPID strange[] = {1, 7};
+  DISPPARAMS parameters = {values, strange, 2, 2};
+  UINT refused = 99;
+  const auto show = [&] {
+    return control->Invoke(4, IID_NULL, 0, DISPATCH_METHOD, &parameters, nullptr, nullptr, &refused);
+  };
+  EXPECT_EQ(show(), DISP_E_PARAMNOTFOUND);
+  EXPECT_EQ(refused, 1U);
+  parameters.cArgs = 1;
+  EXPECT_EQ(show(), E_INVALIDARG) << "more names than arguments";
+  DISPID id = 0;
+  EXPECT_EQ(control->GetIDsOfNames(IID_NULL, nullptr, 1, 0, &id), E_INVALIDARG);
+  EXPECT_EQ(model.values[L"IsToolbarShowing"].boolVal, VARIANT_FALSE);
+}
+
+struct Attempt {
+  const ControlModule& module;
+  HRESULT status;
+};
+
+DWORD WINAPI createElsewhere(void* parameter) {
+  auto& attempt = *static_cast<Attempt*>(parameter);
+  CoInitialize(nullptr);
+  ComPtr<IUnknown> made;
+  attempt.status = attempt.module.factory()->CreateInstance(nullptr, IID_IUnknown, made.putVoid());
+  EXPECT_EQ(static_cast<bool>(made), SUCCEEDED(attempt.status));
+  made = {};
+  CoUninitialize();
+  return 0;
+}
+
+HRESULT createOnAnotherThread(const ControlModule& module) {
+  Attempt attempt = {module, E_FAIL};
+  HANDLE thread = CreateThread(nullptr, 0, createElsewhere, &attempt, 0, nullptr);
+  WaitForSingleObject(thread, 20000);
+  CloseHandle(thread);
+  return attempt.status;
+}
+
+// There is one toolbar in a process, and its windows belong to the thread that made them.
+TEST_F(AutomationFace, ServesOneThreadAtATime) {
+  bind();
+  EXPECT_EQ(createOnAnotherThread(module), RPC_E_WRONG_THREAD);
+  VARIANT_BOOL visible = VARIANT_TRUE;
+  EXPECT_EQ(control->IsToolbarVisible(&visible), S_OK);
+  control = {};
+  EXPECT_EQ(createOnAnotherThread(module), S_OK);
+  EXPECT_EQ(module.call("DllCanUnloadNow"), S_OK);
+  control = module.create();
+  ASSERT_TRUE(control);
+  bind();
+}
+
 TEST_F(AutomationFace, HelpAnswersAnEmptyVariant) {
   Variant result;
   result.vt = VT_I4;

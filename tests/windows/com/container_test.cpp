@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "tests/windows/com/box_watcher.h"
 #include "tests/windows/com/installation.h"
 #include "tests/windows/com/module_file.h"
@@ -93,10 +95,32 @@ class Listener : public IAdviseSink {
   STDMETHODIMP_(void) OnViewChange(DWORD, LONG) override {}
   STDMETHODIMP_(void) OnRename(IMoniker*) override {}
   STDMETHODIMP_(void) OnSave() override {}
-  STDMETHODIMP_(void) OnClose() override { ++closed; }
+  STDMETHODIMP_(void) OnClose() override {
+    ++closed;
+    if (whenClosed) whenClosed();
+  }
 
   int closed = 0;
+  std::function<void()> whenClosed;
 };
+
+TEST_F(Container, MayBeLetGoFromInsideItsClosing) {
+  auto object = query<IOleObject>(IID_IOleObject);
+  Listener listener;
+  Listener second;
+  DWORD connection = 0;
+  ASSERT_EQ(object->Advise(&listener, &connection), S_OK);
+  ASSERT_EQ(object->Advise(&second, &connection), S_OK);
+  IOleObject* last = object.release();
+  control = {};
+  listener.whenClosed = [&] {
+    last->Release();
+    EXPECT_EQ(module.call("DllCanUnloadNow"), S_FALSE) << "its method still runs";
+  };
+  EXPECT_EQ(last->Close(OLECLOSE_NOSAVE), S_OK);
+  EXPECT_EQ(second.closed, 1);
+  EXPECT_EQ(module.call("DllCanUnloadNow"), S_OK);
+}
 
 TEST_F(Container, TellsItsListenersWhenItIsClosed) {
   const auto object = query<IOleObject>(IID_IOleObject);
@@ -121,6 +145,7 @@ TEST_F(Container, DrawsAPlaceholder) {
   const auto view = query<IViewObject2>(IID_IViewObject2);
   EXPECT_EQ(view->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, context, &bounds, nullptr, nullptr, 0), S_OK);
   EXPECT_EQ(GetPixel(context, 10, 35), GetSysColor(COLOR_BTNFACE));
+  EXPECT_EQ(GetBkMode(context), OPAQUE) << "the context is the container's";
   DeleteObject(SelectObject(context, before));
   DeleteDC(context);
   ReleaseDC(nullptr, screen);

@@ -1,8 +1,6 @@
 """The toolbar's buttons under a real mouse."""
 
-import unittest
-
-from session_case import HOT, PRESSED, SessionCase, desktop, main, wait_for
+from session_case import HOT, PRESSED, UNAVAILABLE, SessionCase, desktop, main, wait_for
 
 WORLD = ["Replace Zephra", "Line Thickness", "Line Color", "Fill Color", "Background Options", "Model Orientation",
          "Lighting", "Animation Playback", "Zephra Help"]
@@ -32,6 +30,8 @@ class Table(SessionCase):
     def test_1_folded_bar_offers_the_upper_row_only(self):
         self.assertEqual(49, self.height())
         self.assertEqual(WORLD, [b["name"] for b in self.buttons() if self.inside(b)])
+        for button in self.buttons():
+            self.assertEqual(not self.inside(button), bool(button["state"] & UNAVAILABLE), button)
         self.picture("toolbar-folded")
 
     def test_2_unfolded_bar_offers_all_buttons(self):

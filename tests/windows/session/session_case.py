@@ -11,7 +11,7 @@ sys.path.insert(0, str(ROOT))
 from tests.windows.session import installation  # noqa: E402
 from tests.windows.session.client import Client  # noqa: E402
 from tools.session import desktop  # noqa: E402
-from tools.session.probe import HOT, PRESSED, PUSH_BUTTON, Probe, wait_for  # noqa: E402
+from tools.session.probe import HOT, PRESSED, PUSH_BUTTON, UNAVAILABLE, Probe, wait_for  # noqa: E402
 
 SCREENS = ROOT / "out" / "screens"
 programs = argparse.Namespace()
@@ -21,13 +21,14 @@ def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("--arch", default="x86")
     parser.add_argument("--build", type=Path, required=True, help="the build tree of the programs")
+    parser.add_argument("--models", type=Path, default=ROOT / "dist" / "x86" / "Models", help="a library of models")
     options, rest = parser.parse_known_args()
     programs.arch = options.arch
     programs.control = options.build / "activex" / "ActiveNeridaToolbar.ocx"
     programs.resources = options.build / "assets"
     programs.script_host = options.build / "tests" / "windows" / "com" / "script_host.exe"
     programs.host = options.build / "host" / "app" / "zephra-host.exe"
-    programs.probe = options.build / "tools" / "ui_probe" / "ui-probe.exe"
+    programs.models = options.models
     installation.register(programs.control, programs.arch)
     installation.set_paths(programs.resources)
     unittest.main(argv=[sys.argv[0], *rest], verbosity=2)
@@ -40,7 +41,7 @@ class SessionCase(unittest.TestCase):
 
     @classmethod
     def setUpClass(cls):
-        cls.probe = Probe(programs.probe)
+        cls.probe = Probe()
         cls.addClassCleanup(cls.probe.close)
         cls.client = Client(programs.script_host)
         cls.addClassCleanup(cls.client.close)
@@ -71,6 +72,9 @@ class SessionCase(unittest.TestCase):
 
     def unfold(self):
         if self.height() != 76:
+            desktop.move((900, 700))
+            desktop.move(self.at("Model Orientation"))
+            self.waitForState("Model Orientation", HOT)  # a window just shown is not at once under the pointer
             self.click("Model Orientation")
             wait_for(lambda: self.height() == 76, what="the movement groups")
 
