@@ -9,16 +9,23 @@ Library::Library(const Platform& platform)
       registry(platform.registry),
       settings(platform.settings),
       messages(platform.prompts),
-      toolbar(state, platform.windows, desktop, paths, messages),
-      lineThicknessMenu(state, platform.windows, toolbar),
-      lineColors(state, platform.windows, toolbar, lineRole),
-      surfaceColors(state, platform.windows, toolbar, surfaceRole),
-      backgroundColors(state, platform.windows, toolbar, backgroundRole),
-      animation(state, platform.windows, toolbar),
-      lighting(state, platform.windows, toolbar),
+      toolbar(state, platform.windows, desktop, platform.prompts, paths, messages),
+      lineThicknessMenu(state, platform.windows, desktop, paths, toolbar),
+      lineColors(state, platform.windows, desktop, messages, toolbar, recentColors, lineRole),
+      surfaceColors(state, platform.windows, desktop, messages, toolbar, recentColors, surfaceRole),
+      backgroundColors(state, platform.windows, desktop, messages, toolbar, recentColors, backgroundRole),
+      animation(state, platform.windows, desktop, paths, messages, toolbar),
+      lighting(state, platform.windows, desktop, paths, messages, toolbar),
       browser(state, platform.windows, paths, messages, platform.shell),
       about(state, platform.windows, paths) {
-  toolbar.connect({&animation, &browser, [this](const Message& message) { return ToolbarWindowProc(*this, message); }});
+  toolbar.connect({.lineThickness = &lineThicknessMenu,
+                   .lineColors = &lineColors,
+                   .surfaceColors = &surfaceColors,
+                   .backgroundColors = &backgroundColors,
+                   .lighting = &lighting,
+                   .animation = &animation,
+                   .catalog = &browser,
+                   .windowProcedure = [this](const Message& message) { return ToolbarWindowProc(*this, message); }});
   toolbar.unloading = [this] { saveRecentColors(recentColors, settings); };
   browser.modelNamed = [this](const std::string& name) {
     if (toolbar.isLoaded()) toolbar.setCaptionFor(name);

@@ -26,6 +26,8 @@ class Form {
   bool isLoaded() const { return currentWindow != nullptr; }
   // The window's real visibility; false when not loaded.
   bool isVisible() const { return isLoaded() && currentWindow->isVisible(); }
+  // The form's entry in the registry.
+  bool isMarkedShown() const { return state.gFormShown[static_cast<std::size_t>(index)]; }
   // Touching the handle loads the form.
   WindowHandle hWnd() { return window().handle(); }
 

@@ -1,5 +1,6 @@
 #include "core/model_object.h"
 
+#include "core/trap.h"
 #include "platform/error.h"
 
 namespace nerida {
@@ -44,6 +45,22 @@ void ModelObject::call(const char* member, std::initializer_list<std::int16_t> s
   std::vector<Argument> arguments;
   for (const std::int16_t step : steps) arguments.emplace_back(Value(step));
   object()->call(member, arguments);
+}
+
+void ModelObject::SetLightDirection(const LightDirection& direction) {
+  std::array<Argument, 3> arguments{Argument(direction.x), Argument(direction.y), Argument(direction.z)};
+  object()->call("SetLightDirection", arguments);
+}
+
+std::optional<LightDirection> ModelObject::GetLightDirection() {
+  std::array<Value, 3> variables{Value(std::int32_t{0}), Value(std::int32_t{0}), Value(std::int32_t{0})};
+  std::array<Argument, 3> arguments{Argument(&variables[0]), Argument(&variables[1]), Argument(&variables[2])};
+  std::optional<LightDirection> direction;
+  ignoringErrors([&] {
+    if (toInt32(object()->call("GetLightDirection", arguments)) != 0) return;
+    direction = LightDirection{toInt32(variables[0]), toInt32(variables[1]), toInt32(variables[2])};
+  });
+  return direction;
 }
 
 std::vector<std::string> ModelObject::GetLookStyleList() {

@@ -3,12 +3,20 @@
 #include <array>
 #include <cstdint>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "core/state.h"
 
 namespace nerida {
+
+// Where the light comes from: x to the right, y downwards, z towards the viewer; -100 to 100 each (32-bit).
+struct LightDirection {
+  std::int32_t x = 0;
+  std::int32_t y = 0;
+  std::int32_t z = 0;
+};
 
 // The embedded object's members, typed. Every use looks the member up by name on the object that the state holds at
 // that moment and passes the arguments in the exact form stated here; numbers that are read are taken as the object
@@ -49,8 +57,38 @@ class ModelObject {
   std::string LookStyleName() { return toText(get("LookStyleName")); }
   void setLookStyle(const std::string& name) { let("LookStyle", name); }
 
+  // Explicit colours, or the style's own ones.
+  bool IsBackgroundDefault() { return toBoolean(get("IsBackgroundDefault")); }
+  bool IsLineColorDefault() { return toBoolean(get("IsLineColorDefault")); }
+  bool IsSurfaceColorDefault() { return toBoolean(get("IsSurfaceColorDefault")); }
+  std::int32_t BackgroundColor() { return toInt32(get("BackgroundColor")); }
+  std::int32_t LineColor() { return toInt32(get("LineColor")); }
+  std::int32_t SurfaceColor() { return toInt32(get("SurfaceColor")); }
+  void setBackgroundColor(std::int32_t color) { let("BackgroundColor", color); }
+  void setLineColor(std::int32_t color) { let("LineColor", color); }
+  void setSurfaceColor(std::int32_t color) { let("SurfaceColor", color); }
+  void RestoreDefaultBackgroundColor() { call("RestoreDefaultBackgroundColor"); }
+  void RestoreDefaultLineColor() { call("RestoreDefaultLineColor"); }
+  void RestoreDefaultSurfaceColor() { call("RestoreDefaultSurfaceColor"); }
+
+  // Percent of the normal thickness.
+  std::int32_t LineThicknessScale() { return toInt32(get("LineThicknessScale")); }
+  void setLineThicknessScale(std::int16_t percent) { let("LineThicknessScale", percent); }
+
+  bool LightIsOn() { return toBoolean(get("LightIsOn")); }
+  void setLightIsOn(bool on) { let("LightIsOn", on); }
+  void SetLightDirection(const LightDirection& direction);
+  // Nothing when the object answers with a status other than 0, or fails.
+  std::optional<LightDirection> GetLightDirection();
+
+  // Frames count from 0 and are 16-bit when written.
   std::int32_t AnimationFrameCount() { return toInt32(get("AnimationFrameCount")); }
   std::int32_t AnimationCurrentFrame() { return toInt32(get("AnimationCurrentFrame")); }
+  void setAnimationCurrentFrame(std::int16_t frame) { let("AnimationCurrentFrame", frame); }
+  void AnimationIncrementFrame() { call("AnimationIncrementFrame"); }
+  void AnimationDecrementFrame() { call("AnimationDecrementFrame"); }
+  bool AnimationLoopState() { return toBoolean(get("AnimationLoopState")); }
+  void setAnimationLoopState(bool repeats) { let("AnimationLoopState", repeats); }
   bool AnimationState() { return toBoolean(get("AnimationState")); }
   void setAnimationState(bool playing) { let("AnimationState", playing); }
   void StopTimer() { call("StopTimer"); }

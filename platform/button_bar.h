@@ -26,16 +26,36 @@ class ButtonBar : public Control {
   // Of the button just added.
   virtual void setTooltip(const std::string& text) = 0;
   virtual void setCaption(const std::string& text) = 0;
+  // What assistive tools call it; without one it is its tooltip, else its caption, else its key.
+  virtual void setAccessibleName(const std::string& text) = 0;
   virtual void recomputeLayout() = 0;
+  // Like recomputeLayout, with the buttons in the order of a list of keys joined by ";".
+  virtual void recomputeLayout(const std::string& keys) = 0;
   // Error 5 when the bar has no layout of that name.
   virtual void showLayout(const std::string& name) = 0;
 
   // 0 up, 2 down (latched); searched in every layout. An unknown key changes nothing. Never raises a press.
   virtual void setState(const std::string& key, int state, bool redraw) = 0;
 
+  // A button's value, 0 or 1: whether it is the chosen one of its bar. It is shown like the state 2, and setting it to
+  // 0 raises the button. An unknown key changes nothing.
+  virtual void setValue(const std::string& key, int value) = 0;
+
+  // Whether the left mouse button is down at this moment with the pointer inside that button.
+  virtual bool isHeldByMouse(const std::string& key) const = 0;
+
+  // Gives the keyboard focus, visibly, to a button of the layout that is shown. Any other key changes nothing.
+  virtual void focusButton(const std::string& key) = 0;
+
   // The left button came up inside the button in which it had gone down, or the keyboard or an assistive tool pressed
   // it. Kind-6 buttons do not latch by themselves.
   std::function<void(const std::string& key)> buttonPress;
+  // The pointer moved over a button.
+  std::function<void(const std::string& key)> buttonMouseMove;
+  std::function<void()> gotFocus;
+  std::function<void()> lostFocus;
+  // An arrow key in the button that has the focus. Returns whether it was used; else the focus moves along the bar.
+  std::function<bool(const std::string& key, Key arrow)> arrowKey;
 };
 
 inline constexpr int buttonUp = 0;

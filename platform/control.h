@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "platform/units.h"
 
@@ -33,20 +35,55 @@ class TextBox : public Control {
  public:
   virtual std::string text() const = 0;
   virtual void setText(const std::string& text) = 0;
+
+  // Enter was pressed in the box. Other keys go into the text.
+  std::function<void()> enterPressed;
 };
 
 class Canvas;
 
+// The keys that drawn controls understand.
+enum class Key { left, right, up, down, choose };  // choose: Enter or Space
+
+// A part of a drawn control that a person points at, reads and presses like a control of its own: a cell of a grid.
+// Its name is its accessible name and its tooltip.
+struct DrawnPart {
+  std::string name;
+  Bounds place;  // twips, from the control's top-left corner
+  bool pressed = false;
+  bool focused = false;
+};
+
+// A control that its form draws and whose mouse it watches. Places are twips from the control's top-left corner. It
+// takes the keyboard focus only when keyDown or parts is set.
 class PictureBox : public Control {
  public:
   virtual void repaint() = 0;
+  virtual void setFocus() = 0;
+  virtual void setTooltip(const std::string& text) = 0;  // of the control as a whole
 
   std::function<void(Canvas&)> paint;
+  std::function<void(Twips x, Twips y)> mouseMove;
+  std::function<void(Twips x, Twips y)> mouseDown;  // any button; the mouse is captured until it comes up
+  std::function<void(Twips x, Twips y)> mouseUp;
+  std::function<void()> gotFocus;
+  // Raised when the focus has gone: the window that is active by then is known to Desktop::activeWindow.
+  std::function<void()> lostFocus;
+  // Returns whether the key was used. Tab and Escape are the form's: Tab moves on, Escape raises closeRequested.
+  std::function<bool(Key key)> keyDown;
+
+  // The parts as they are now, for tooltips and assistive tools, and what pressing one of them does.
+  std::function<std::vector<DrawnPart>()> parts;
+  std::function<void(std::size_t part)> pressPart;
 };
 
 class Label : public Control {
  public:
   virtual void setCaption(const std::string& text) = 0;
+
+  std::function<void()> mouseMove;
+  std::function<void()> mouseDown;
+  std::function<void()> mouseUp;  // a click; also raised when an assistive tool presses the label
 };
 
 }  // namespace nerida

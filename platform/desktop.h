@@ -19,6 +19,8 @@ class Desktop {
   virtual void setMousePointer(MousePointer pointer) = 0;
   // The client coordinates of a screen point in a window; (0, 0) for a window that does not exist. Never fails.
   virtual Point screenToClient(WindowHandle window, Point screen) = 0;
+  // The active window of this thread, 0 when another program's window is active.
+  virtual WindowHandle activeWindow() = 0;
   // Asks for the foreground. Ignored while another application has it: closing a popup because the user went
   // elsewhere must not drag the user back.
   virtual void setForegroundWindow(WindowHandle window) = 0;

@@ -72,6 +72,7 @@ class Window {
   std::function<void()> activated;
   std::function<void()> deactivated;
   std::function<void()> clicked;         // anywhere on the form outside its controls (labels and pictures forward)
+  std::function<void()> mouseMoved;      // over the form outside its controls
   std::function<void()> closeRequested;  // the user's close box; nothing else happens by itself
 };
 

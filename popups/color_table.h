@@ -3,12 +3,10 @@
 #include <array>
 #include <cstdint>
 
+#include "platform/canvas.h"
 #include "platform/settings.h"
 
 namespace nerida {
-
-// Red + 256 green + 65536 blue.
-using Rgb = std::int32_t;
 
 constexpr Rgb rgb(int red, int green, int blue) { return red + 256 * green + 65536 * blue; }
 

@@ -4,6 +4,7 @@ namespace nerida {
 
 void Popup::ShowSelf(std::int16_t x, std::int16_t y) {
   ignoringErrors([&] {
+    const FocusGuard staysOpen(*this);
     window().showTopmostAt({x, y});
     closing = false;
     markShown(true);
@@ -13,6 +14,10 @@ void Popup::ShowSelf(std::int16_t x, std::int16_t y) {
 void Popup::Form_Load() {
   closing = false;
   markLoaded();
+}
+
+void Popup::closeIfFocusWentElsewhere() {
+  if (focusGuards == 0 && isLoaded() && desktop.activeWindow() != hWnd()) HideSelf();
 }
 
 }  // namespace nerida

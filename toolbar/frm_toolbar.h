@@ -1,8 +1,10 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/catalog_window.h"
@@ -10,20 +12,27 @@
 #include "core/model_object.h"
 #include "core/paths.h"
 #include "platform/desktop.h"
+#include "platform/prompts.h"
 #include "popups/animation.h"
 #include "popups/color_table.h"
 #include "popups/popup_opener.h"
 
 namespace nerida {
 
-// The floating editing toolbar. Its program lies in four rooms: toolbar_form (building and InitSelf),
-// toolbar_movement, toolbar_style and toolbar_lifecycle.
+// The floating editing toolbar. Its program lies in five rooms: toolbar_form (building and InitSelf),
+// toolbar_movement, toolbar_style, toolbar_popups and toolbar_lifecycle.
 class frmToolbar : public Form, public PopupOpener {
  public:
-  frmToolbar(State& state, WindowFactory& windows, Desktop& desktop, const Paths& paths, Messages& messages);
+  frmToolbar(State& state, WindowFactory& windows, Desktop& desktop, Prompts& prompts, const Paths& paths,
+             Messages& messages);
 
   // The windows that the toolbar opens, and its window procedure; known once the library is put together.
   struct Neighbours {
+    Popup* lineThickness = nullptr;
+    Popup* lineColors = nullptr;
+    Popup* surfaceColors = nullptr;
+    Popup* backgroundColors = nullptr;
+    Popup* lighting = nullptr;
     frmAnimation* animation = nullptr;
     CatalogWindow* catalog = nullptr;
     WindowProcedure windowProcedure;
@@ -52,9 +61,15 @@ class frmToolbar : public Form, public PopupOpener {
   void KillChild() override;
   void releaseButton(const std::string& key) override;
   void takeForeground() override;
+  void afterChoice(std::int16_t open) override;
+  bool chooseCustomColor(ColorRole role, WindowHandle owner) override;
+  Rgb customColor(ColorRole role) const override;
+  void setShownColor(ColorRole role, Rgb color) override { shownColor(role) = color; }
 
-  // Told by a popup after a choice: sets the marks of all five popups.
-  void afterChoice(std::int16_t open);
+  // The colour dialog for one colour of the model, owned by a window.
+  bool GetCustomSurfaceColor(WindowHandle owner);
+  bool GetCustomLineColor(WindowHandle owner);
+  bool GetCustomBackColor(WindowHandle owner);
 
  protected:
   void Form_Load() override;
@@ -66,7 +81,7 @@ class frmToolbar : public Form, public PopupOpener {
   static constexpr int worldBars = 3;
   static constexpr int moveBars = 4;
 
-  // Which of the toolbar's popups is up.
+  // Which of the toolbar's popups is up. A mark may outlive its popup while its button is being pressed.
   struct OpenMarks {
     bool lineThickness = false;
     bool lineColor = false;
@@ -74,6 +89,17 @@ class frmToolbar : public Form, public PopupOpener {
     bool background = false;
     bool lighting = false;
   };
+
+  // A button that opens a popup.
+  struct PopupButton {
+    const char* key;
+    const char* bar;
+    int index;
+    bool OpenMarks::*mark;
+    Popup* Neighbours::*popup;
+  };
+  static const std::array<PopupButton, 5> popupButtons;
+  static const PopupButton* popupButton(std::string_view bar, const std::string& key);
 
   void resetState();
   void connectEvents();
@@ -91,6 +117,19 @@ class frmToolbar : public Form, public PopupOpener {
 
   void hideWithPopups();
 
+  void openPopup(const PopupButton& button, Point place);
+  void closePopup(const PopupButton& button);
+  void toggleLighting();
+  Point anchorBelow(const char* bar, int index);
+  static std::int32_t topWithin(const Size& screen, std::int32_t top, const Size& popup);
+  Point placeOfStylePopup(const PopupButton& button);
+  Point placeOfLighting();
+  bool isPressing(const PopupButton& button);
+  void forgetPress(const char* bar, const std::string& key);
+  bool chooseColor(WindowHandle owner, Rgb& custom, Rgb start, void (ModelObject::*setColor)(std::int32_t));
+  Rgb& shownColor(ColorRole role) { return shownColors[static_cast<std::size_t>(role)]; }
+
+  void barLS_ButtonPress(const std::string& key);
   void barMB_ButtonPress(const std::string& key);
   void barWorld_ButtonPress(const std::string& key);
   void barMove_ButtonPress(const std::string& key);
@@ -103,6 +142,7 @@ class frmToolbar : public Form, public PopupOpener {
 
   ModelObject model;
   Desktop& desktop;
+  Prompts& prompts;
   const Paths& paths;
   Messages& messages;
   Neighbours neighbours;
@@ -110,6 +150,7 @@ class frmToolbar : public Form, public PopupOpener {
   Rgb CustomSurfaceColor = 0;
   Rgb CustomLineColor = 0;
   Rgb CustomBackColor = 0;
+  std::array<Rgb, 3> shownColors{};  // by role: what the palettes showed last, where the colour dialog starts
   std::int32_t NudgeAmount = 0;
   std::int16_t OpenChild = 0;
   OpenMarks openMarks;

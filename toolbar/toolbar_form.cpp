@@ -17,10 +17,12 @@ constexpr std::int32_t noLineThickness = 16;
 
 }  // namespace
 
-frmToolbar::frmToolbar(State& state, WindowFactory& windows, Desktop& desktop, const Paths& paths, Messages& messages)
+frmToolbar::frmToolbar(State& state, WindowFactory& windows, Desktop& desktop, Prompts& prompts, const Paths& paths,
+                       Messages& messages)
     : Form(state, windows, toolbarLayout, toolbarIndex),
       model(state),
       desktop(desktop),
+      prompts(prompts),
       paths(paths),
       messages(messages) {}
 
@@ -37,6 +39,9 @@ void frmToolbar::resetState() {
   CustomSurfaceColor = rgb(255, 255, 255);
   CustomLineColor = rgb(0, 0, 0);
   CustomBackColor = rgb(128, 128, 128);
+  shownColor(ColorRole::surface) = CustomSurfaceColor;
+  shownColor(ColorRole::line) = CustomLineColor;
+  shownColor(ColorRole::background) = CustomBackColor;
   NudgeAmount = 100;
   OpenChild = 0;
   openMarks = {};
@@ -55,8 +60,13 @@ void frmToolbar::connectEvents() {
   form.clicked = [this] { Form_Click(); };
   form.closeRequested = [this] { HideSelf(); };
   bar("barMB", 0).buttonPress = [this](const std::string& key) { barMB_ButtonPress(key); };
+  for (int i = 0; i < styleBars; ++i) {
+    bar("barLS", i).buttonPress = [this](const std::string& key) { barLS_ButtonPress(key); };
+    bar("barLS", i).buttonMouseMove = [this](const std::string& key) { forgetPress("barLS", key); };
+  }
   for (int i = 0; i < worldBars; ++i) {
     bar("barWorld", i).buttonPress = [this](const std::string& key) { barWorld_ButtonPress(key); };
+    bar("barWorld", i).buttonMouseMove = [this](const std::string& key) { forgetPress("barWorld", key); };
   }
   for (int i = 0; i < moveBars; ++i) {
     bar("barMove", i).buttonPress = [this](const std::string& key) { barMove_ButtonPress(key); };

@@ -1,6 +1,4 @@
-// Showing, hiding and hooking the toolbar; its model and world buttons; what its popups tell it.
-#include <limits>
-
+// Showing, hiding and hooking the toolbar, and its model button.
 #include "core/popup_hiding.h"
 #include "toolbar/frm_toolbar.h"
 #include "toolbar/toolbar_layout.h"
@@ -54,17 +52,6 @@ void frmToolbar::NudgeToggle(bool on) {
   NudgeOn = on;
 }
 
-void frmToolbar::barWorld_ButtonPress(const std::string& key) {
-  handle(messages, [&] {
-    openMarks.lineThickness = openMarks.lineColor = openMarks.fillColor = openMarks.background = false;
-    if (key == "Move") {
-      NudgeToggle(!NudgeOn);
-    } else if (key == "Help") {
-      neighbours.catalog->ShowHelpFile();
-    }
-  });
-}
-
 void frmToolbar::barMB_ButtonPress(const std::string&) {
   handle(messages, [this] {
     HideSelf();
@@ -74,35 +61,6 @@ void frmToolbar::barMB_ButtonPress(const std::string&) {
     }
     if (isLoaded()) neighbours.catalog->ShowSelf();
   });
-}
-
-void frmToolbar::KillChild() {
-  if (OpenChild == std::numeric_limits<std::int16_t>::min()) throw Error(error::overflow);
-  --OpenChild;
-}
-
-void frmToolbar::releaseButton(const std::string& key) {
-  static constexpr struct {
-    const char* key;
-    const char* bar;
-    int index;
-  } owners[] = {{"LineThickness", "barLS", 0},
-                {"LineColorFill", "barLS", 1},
-                {"SurfaceColorFill", "barLS", 2},
-                {"Background", "barLS", 3},
-                {"Lighting", "barWorld", 0}};
-  for (const auto& owner : owners) {
-    if (key == owner.key && isLoaded()) bar(owner.bar, owner.index).setState(key, buttonUp, true);
-  }
-}
-
-void frmToolbar::takeForeground() {
-  if (isLoaded()) desktop.setForegroundWindow(hWnd());
-}
-
-void frmToolbar::afterChoice(std::int16_t open) {
-  const bool up = open != 0;
-  openMarks = {up, up, up, up, up};
 }
 
 }  // namespace nerida

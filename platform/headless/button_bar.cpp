@@ -44,7 +44,7 @@ void Bar::addButton(const std::string& key, const std::string& bitmapSpec) {
   if (std::any_of(buttons.begin(), buttons.end(), [&](const Button& button) { return button.key == key; })) {
     throw Error(error::invalidCall);
   }
-  buttons.push_back({key, bitmapSpec, bitmap, "", "", buttonUp});
+  buttons.push_back({.key = key, .bitmapSpec = bitmapSpec, .bitmap = bitmap});
   note("add " + key);
 }
 
@@ -75,6 +75,14 @@ void Bar::recomputeLayout() {
   note("lay out");
 }
 
+void Bar::recomputeLayout(const std::string& keys) {
+  std::vector<Button>& buttons = layouts.at(openedLayout).buttons;
+  const auto rank = [&](const Button& button) { return (";" + keys + ";").find(";" + button.key + ";"); };
+  std::ranges::stable_sort(buttons, {}, rank);
+  layouts.at(openedLayout).laidOut = true;
+  note("lay out " + keys);
+}
+
 void Bar::showLayout(const std::string& layoutName) {
   if (!layouts.contains(layoutName)) throw Error(error::invalidCall);
   shownLayout = layoutName;
@@ -84,6 +92,23 @@ void Bar::showLayout(const std::string& layoutName) {
 void Bar::setState(const std::string& key, int state, bool) {
   if (Button* found = find(key)) found->state = state;
   note(key + " state " + std::to_string(state));
+}
+
+void Bar::setValue(const std::string& key, int value) {
+  if (Button* found = find(key)) {
+    found->value = value;
+    found->state = value == 0 ? buttonUp : buttonDown;
+  }
+  note(key + " value " + std::to_string(value));
+}
+
+void Bar::hover(const std::string& key) {
+  if (buttonMouseMove) buttonMouseMove(key);
+}
+
+void Bar::loseFocus() {
+  focusedKey.clear();
+  if (lostFocus) lostFocus();
 }
 
 Bar::Button* Bar::find(const std::string& key) {

@@ -16,10 +16,12 @@ class Bar : public ButtonBar {
   struct Button {
     std::string key;
     std::string bitmapSpec;
-    BitmapSpec bitmap;
-    std::string tooltip;
-    std::string caption;
+    BitmapSpec bitmap = {};
+    std::string tooltip = {};
+    std::string caption = {};
+    std::string accessibleName = {};
     int state = buttonUp;
+    int value = 0;
   };
   struct Layout {
     std::vector<Button> buttons;
@@ -40,10 +42,18 @@ class Bar : public ButtonBar {
   void addButton(const std::string& key, const std::string& bitmapSpec) override;
   void setTooltip(const std::string& text) override;
   void setCaption(const std::string& text) override;
+  void setAccessibleName(const std::string& text) override { lastAdded().accessibleName = text; }
   void recomputeLayout() override;
+  void recomputeLayout(const std::string& keys) override;
   void showLayout(const std::string& layoutName) override;
   void setState(const std::string& key, int state, bool redraw) override;
+  void setValue(const std::string& key, int value) override;
+  bool isHeldByMouse(const std::string& key) const override { return !heldKey.empty() && key == heldKey; }
+  void focusButton(const std::string& key) override { focusedKey = key; }
 
+  // The pointer moves over a button.
+  void hover(const std::string& key);
+  void loseFocus();
   // The user presses a button of the layout that is shown. Pressing what is not there is a mistake of the test.
   void press(const std::string& key);
   const Button& button(const std::string& key) const;
@@ -54,6 +64,8 @@ class Bar : public ButtonBar {
   std::string shownLayout;
   std::string resourceFolder;
   std::string resourceFile;
+  std::string heldKey;  // the button in which the user holds the mouse down
+  std::string focusedKey;
   bool enabled = false;
   bool showsTooltips = false;
 

@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "platform/error.h"
+#include "platform/headless/recording_canvas.h"
 
 namespace nerida::headless {
 
@@ -40,6 +41,52 @@ void Combo::choose(const std::string& text) {
 void Text::setText(const std::string& value) {
   content = value;
   note("text " + value);
+}
+
+void Text::enter(const std::string& typed) {
+  content = typed;
+  if (enterPressed) enterPressed();
+}
+
+std::vector<std::string> Picture::draw() const {
+  RecordingCanvas canvas;
+  if (paint) paint(canvas);
+  return canvas.lines;
+}
+
+void Picture::setFocus() {
+  if (focus.holder == this) return;
+  if (focus.holder) focus.holder->loseFocus();
+  focus.holder = this;
+  if (gotFocus) gotFocus();
+}
+
+void Picture::loseFocus() {
+  if (focus.holder == this) focus.holder = nullptr;
+  if (lostFocus) lostFocus();
+}
+
+void Picture::movePointer(Twips x, Twips y) {
+  if (mouseMove) mouseMove(x, y);
+}
+
+void Picture::pressAt(Twips x, Twips y) {
+  if (mouseDown) mouseDown(x, y);
+}
+
+void Picture::releaseAt(Twips x, Twips y) {
+  if (mouseUp) mouseUp(x, y);
+}
+
+bool Picture::key(Key pressed) { return keyDown && keyDown(pressed); }
+
+void Caption::movePointer() const {
+  if (mouseMove) mouseMove();
+}
+
+void Caption::click() const {
+  if (mouseDown) mouseDown();
+  if (mouseUp) mouseUp();
 }
 
 void Caption::setCaption(const std::string& value) {

@@ -58,19 +58,47 @@ class Text : public Basic<TextBox> {
   std::string text() const override { return content; }
   void setText(const std::string& value) override;
 
+  // The user types a text in place of the old one and presses Enter.
+  void enter(const std::string& typed);
+
   std::string content;
+};
+
+// Which picture box has the keyboard focus.
+struct KeyboardFocus {
+  class Picture* holder = nullptr;
 };
 
 class Picture : public Basic<PictureBox> {
  public:
-  using Basic::Basic;
+  Picture(Transcript& transcript, std::string name, Bounds bounds, KeyboardFocus& focus)
+      : Basic(transcript, std::move(name), bounds), focus(focus) {}
   void repaint() override { note("repaint"); }
+  void setFocus() override;
+  void setTooltip(const std::string& text) override { tooltip = text; }
+
+  // The user's mouse and keyboard, and a focus that goes elsewhere.
+  void movePointer(Twips x, Twips y);
+  void pressAt(Twips x, Twips y);
+  void releaseAt(Twips x, Twips y);
+  bool key(Key pressed);
+  void loseFocus();
+  // What the control draws now, a line for each thing: "fill 0,0 to 30,15 in #0000FF", "box 0,0 to 30,15 in system 16".
+  std::vector<std::string> draw() const;
+
+  std::string tooltip;
+
+ private:
+  KeyboardFocus& focus;
 };
 
 class Caption : public Basic<Label> {
  public:
   using Basic::Basic;
   void setCaption(const std::string& value) override;
+
+  void movePointer() const;
+  void click() const;  // down and up
 
   std::string caption;
 };

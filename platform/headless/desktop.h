@@ -18,12 +18,14 @@ class Screen : public Desktop {
   Size screenSize() override { return size; }
   void setMousePointer(MousePointer value) override;
   Point screenToClient(WindowHandle window, Point screen) override;
+  WindowHandle activeWindow() override { return active; }
   void setForegroundWindow(WindowHandle window) override;
 
   std::function<double()> horizontal = [] { return 15.0; };
   std::function<double()> vertical = [] { return 15.0; };
   Size size{1024, 768};
   MousePointer pointer = MousePointer::standard;
+  WindowHandle active = 0;      // follows the windows that are shown and hidden
   WindowHandle hostWindow = 7;  // the one window of others that exists
   Point hostClientCorner;       // its client area on the screen
   // Where the client area of one of our own windows begins; nothing for a window that is not ours.

@@ -16,6 +16,8 @@ namespace nerida::headless {
 struct HeadlessPlatform {
   HeadlessPlatform() {
     screen.ownClientCorner = [this](WindowHandle handle) { return windows.clientCornerOf(handle); };
+    windows.activeChanged = [this](WindowHandle window) { screen.active = window; };
+    boxes.colorDialogToggles = [this](bool open) { open ? windows.activateElsewhere() : windows.activateAgain(); };
   }
   HeadlessPlatform(const HeadlessPlatform&) = delete;
   HeadlessPlatform& operator=(const HeadlessPlatform&) = delete;

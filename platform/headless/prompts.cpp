@@ -11,4 +11,15 @@ PromptAnswer Boxes::messageBox(const std::string& text, PromptButtons buttons, c
   return answer;
 }
 
+std::optional<Rgb> Boxes::chooseColor(WindowHandle owner, Rgb start) {
+  transcript.add("color dialog of " + std::to_string(owner) + " from " + std::to_string(start));
+  if (colorDialogToggles) colorDialogToggles(true);
+  if (duringColorDialog) duringColorDialog();
+  if (colorChoices.empty()) throw TestEnded{"a color dialog waits for a user"};
+  const std::optional<Rgb> choice = colorChoices.front();
+  colorChoices.pop_front();
+  if (colorDialogToggles) colorDialogToggles(false);
+  return choice;
+}
+
 }  // namespace nerida::headless

@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "platform/headless/transcript.h"
@@ -21,9 +22,16 @@ class Boxes : public Prompts {
   // Takes the next answer; a box without one ends the test.
   PromptAnswer messageBox(const std::string& text, PromptButtons buttons, const std::string& title) override;
 
+  // Takes the next colour choice; a dialog without one ends the test. It takes the activation while it is open.
+  std::optional<Rgb> chooseColor(WindowHandle owner, Rgb start) override;
+
   std::deque<PromptAnswer> answers;
   // Runs while a box is open.
   std::function<void()> duringBox;
+  std::deque<std::optional<Rgb>> colorChoices;  // nothing: the user cancels
+  // Runs while a colour dialog is open.
+  std::function<void()> duringColorDialog;
+  std::function<void(bool open)> colorDialogToggles;
 
  private:
   Transcript& transcript;

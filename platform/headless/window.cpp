@@ -32,7 +32,11 @@ FormWindow::FormWindow(Windows& windows, const FormLayout& layout, WindowHandle 
 // The system's window, too, goes without a further event. The object stays with the others that have gone: it may be
 // inside one of its own events.
 void FormWindow::dispose() {
+  for (const auto& [key, picture] : pictures) {
+    if (windows.focus.holder == picture.get()) windows.focus.holder = nullptr;
+  }
   if (windows.active == this) windows.active = nullptr;
+  if (windows.activeBefore == this) windows.activeBefore = nullptr;
   std::erase(windows.living, this);
   visible = false;
   disposed = true;
@@ -56,7 +60,7 @@ void FormWindow::createControls() {
         texts[key]->content = control.text;
         break;
       case ControlKind::pictureBox:
-        pictures[key] = std::make_unique<Picture>(windows.transcript, name, control.bounds);
+        pictures[key] = std::make_unique<Picture>(windows.transcript, name, control.bounds, windows.focus);
         break;
       case ControlKind::label:
         labels[key] = std::make_unique<Caption>(windows.transcript, name, control.bounds);
@@ -91,12 +95,9 @@ void FormWindow::setVisible(bool value) {
   if (visible == value && (!value || windows.active == this)) return;
   visible = value;
   if (value) {
-    FormWindow* before = std::exchange(windows.active, this);
-    if (before && before != this) before->raise(before->deactivated);
-    if (before != this) raise(activated);
+    windows.activate(this);
   } else if (windows.active == this) {
-    windows.active = nullptr;
-    raise(deactivated);
+    windows.activate(nullptr);
   }
 }
 
@@ -163,6 +164,10 @@ void FormWindow::raise(const std::function<void()>& event) {
 
 void FormWindow::userCloses() { raise(closeRequested); }
 
+void FormWindow::userActivates() { windows.activate(this); }
+
+void FormWindow::userMovesPointer() { raise(mouseMoved); }
+
 void FormWindow::userClicks() { raise(clicked); }
 
 std::shared_ptr<Window> Windows::create(const FormLayout& layout) {
@@ -177,6 +182,26 @@ FormWindow* Windows::find(const std::string& name) const {
     if (name == window->layout.name) return window;
   }
   return nullptr;
+}
+
+// The focus goes after the activation: who loses it can see which window is active by then.
+void Windows::activate(FormWindow* window) {
+  if (active == window) return;
+  FormWindow* before = std::exchange(active, window);
+  if (activeChanged) activeChanged(window ? window->handle() : 0);
+  if (before) before->raise(before->deactivated);
+  if (focus.holder) focus.holder->loseFocus();
+  if (window && active == window) window->raise(window->activated);
+}
+
+void Windows::activateElsewhere() {
+  activeBefore = active;
+  activate(nullptr);
+}
+
+void Windows::activateAgain() {
+  FormWindow* window = std::exchange(activeBefore, nullptr);
+  if (window && window->isVisible()) activate(window);
 }
 
 std::optional<Point> Windows::clientCornerOf(WindowHandle handle) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -46,11 +47,17 @@ class FormWindow : public Window {
   // The headless faces of the controls.
   Bar& bar(const std::string& name, int index = 0) { return *find(bars, name, index); }
   Combo& combo(const std::string& name) { return *find(combos, name, 0); }
+  Text& text(const std::string& name) { return *find(texts, name, 0); }
+  Picture& picture(const std::string& name, int index = 0) { return *find(pictures, name, index); }
+  Caption& labelControl(const std::string& name) { return *find(labels, name, 0); }
 
   // The system sends the window a message; the answer is what its procedure returns.
   std::intptr_t send(std::uint32_t number, std::uintptr_t wParam = 0, std::intptr_t lParam = 0);
   void userCloses();
   void userClicks();
+  void userMovesPointer();  // over the form outside its controls
+  // The user goes to the window, by a mouse press for one.
+  void userActivates();
 
   std::string caption;
   Twips height;
@@ -60,6 +67,7 @@ class FormWindow : public Window {
   std::intptr_t previousAnswer = 0;
 
  private:
+  friend class Windows;
   template <class C>
   using ByName = std::map<std::pair<std::string, int>, std::unique_ptr<C>>;
   template <class C>
@@ -99,6 +107,12 @@ class Windows : public WindowFactory {
   std::vector<FormWindow*> living;  // in order of creation
   std::vector<std::unique_ptr<FormWindow>> gone;
   FormWindow* active = nullptr;
+  KeyboardFocus focus;
+  // Told of every change of the active window.
+  std::function<void(WindowHandle)> activeChanged;
+  // Another program's window or a dialog takes the activation, and gives it back.
+  void activateElsewhere();
+  void activateAgain();
   // What the user does while a modal window is shown; a window that nobody closes ends the test.
   std::function<void(FormWindow&)> duringModal;
   // Runs while a pop-up menu is open.
@@ -110,6 +124,10 @@ class Windows : public WindowFactory {
   std::map<std::string, std::int32_t> creationFailures;
 
  private:
+  friend class FormWindow;
+  void activate(FormWindow* window);
+
+  FormWindow* activeBefore = nullptr;
   WindowHandle nextHandle = 101;
 };
 

@@ -3,12 +3,23 @@
 #include <algorithm>
 
 #include "platform/error.h"
-#include "platform/win32/accessible_bar.h"
 #include "platform/win32/bitmap_files.h"
 #include "platform/win32/form_window.h"
 #include "platform/win32/text.h"
 
 namespace nerida {
+
+namespace {
+
+// A window manager that activates windows by itself does so shortly before it lets the press through.
+bool isMousePressedOrAboutTo() {
+  constexpr DWORD patience = 200;  // milliseconds
+  const bool swapped = GetSystemMetrics(SM_SWAPBUTTON) != 0;
+  if (GetAsyncKeyState(swapped ? VK_RBUTTON : VK_LBUTTON) < 0) return true;
+  return MsgWaitForMultipleObjects(0, nullptr, FALSE, patience, QS_MOUSEBUTTON) == WAIT_OBJECT_0;
+}
+
+}  // namespace
 
 SystemButtonBar::SystemButtonBar(FormWindow& owner, const ControlLayout& row) : ControlOf(owner, row) {
   createOwn(buttonBarClass, 0);
@@ -67,10 +78,20 @@ void SystemButtonBar::setTooltip(const std::string& text) { lastAdded().tooltip 
 
 void SystemButtonBar::setCaption(const std::string& text) { lastAdded().caption = wide(text); }
 
+void SystemButtonBar::setAccessibleName(const std::string& text) { lastAdded().accessibleName = wide(text); }
+
 void SystemButtonBar::recomputeLayout() {
   for (BarLayout& each : layouts) measure(each);
   form().tooltips().forget(window());
   InvalidateRect(window(), nullptr, FALSE);
+}
+
+void SystemButtonBar::recomputeLayout(const std::string& keys) {
+  if (open != none) {
+    const auto rank = [list = ";" + keys + ";"](const BarButton& item) { return list.find(";" + item.key + ";"); };
+    std::ranges::stable_sort(layouts[static_cast<std::size_t>(open)].buttons, {}, rank);
+  }
+  recomputeLayout();
 }
 
 void SystemButtonBar::showLayout(const std::string& name) {
@@ -79,12 +100,14 @@ void SystemButtonBar::showLayout(const std::string& name) {
   const int index = static_cast<int>(found - layouts.data());
   if (index == current) return;
   cancelPress();
+  arriving = none;
   hot = none;
   focused = none;
   current = index;
   form().tooltips().forget(window());
   InvalidateRect(window(), nullptr, FALSE);
   NotifyWinEvent(EVENT_OBJECT_REORDER, window(), OBJID_CLIENT, CHILDID_SELF);
+  if (GetFocus() == window()) stepFocus(1);  // the keyboard stays here, on one of the new buttons
 }
 
 void SystemButtonBar::setState(const std::string& key, int state, bool redrawNow) {
@@ -100,6 +123,20 @@ void SystemButtonBar::setState(const std::string& key, int state, bool redrawNow
   }
 }
 
+void SystemButtonBar::setValue(const std::string& key, int value) {
+  setState(key, value == 0 ? buttonUp : buttonDown, true);
+}
+
+// Also a press that has not gone down here yet, because the form is only being activated by it.
+bool SystemButtonBar::isHeldByMouse(const std::string& key) const {
+  if (arriving != none && button(arriving).key == key) return true;
+  POINT pointer = {};
+  if (!GetCursorPos(&pointer) || WindowFromPoint(pointer) != window()) return false;
+  ScreenToClient(window(), &pointer);
+  const int under = buttonAt(pointer);
+  return under != none && button(under).key == key && (pressed != none || isMousePressedOrAboutTo());
+}
+
 int SystemButtonBar::buttonCount() const {
   return current == none ? 0 : static_cast<int>(layouts[static_cast<std::size_t>(current)].buttons.size());
 }
@@ -110,6 +147,7 @@ const BarButton& SystemButtonBar::button(int index) const {
 
 std::wstring SystemButtonBar::buttonName(int index) const {
   const BarButton& item = button(index);
+  if (!item.accessibleName.empty()) return item.accessibleName;
   if (!item.tooltip.empty()) return item.tooltip;
   return item.caption.empty() ? wide(item.key) : item.caption;
 }

@@ -7,18 +7,18 @@
 
 #include "platform/bitmap_resources.h"
 #include "platform/button_bar.h"
+#include "platform/win32/accessible_parts.h"
 #include "platform/win32/native_control.h"
 #include "platform/win32/pixels.h"
 
 namespace nerida {
-
-class BarAccessible;
 
 struct BarButton {
   std::string key;
   BitmapSpec spec;
   std::wstring caption;
   std::wstring tooltip;
+  std::wstring accessibleName;
   int state = buttonUp;
   RECT area = {};
   std::optional<Picture> picture;  // empty also when the resource file has none
@@ -31,7 +31,7 @@ struct BarLayout {
 };
 
 // One window that draws all its buttons itself. Buttons are named by their index in the shown layout.
-class SystemButtonBar final : public ControlOf<ButtonBar> {
+class SystemButtonBar final : public ControlOf<ButtonBar>, private ControlParts {
  public:
   SystemButtonBar(FormWindow& owner, const ControlLayout& row);
   ~SystemButtonBar() override;
@@ -44,25 +44,41 @@ class SystemButtonBar final : public ControlOf<ButtonBar> {
   void addButton(const std::string& key, const std::string& bitmapSpec) override;
   void setTooltip(const std::string& text) override;
   void setCaption(const std::string& text) override;
+  void setAccessibleName(const std::string& text) override;
+  void focusButton(const std::string& key) override;
   void recomputeLayout() override;
+  void recomputeLayout(const std::string& keys) override;
   void showLayout(const std::string& name) override;
   void setState(const std::string& key, int state, bool redraw) override;
+  void setValue(const std::string& key, int value) override;
+  bool isHeldByMouse(const std::string& key) const override;
 
-  // For assistive tools.
   int buttonCount() const;
   const BarButton& button(int index) const;
-  std::wstring buttonName(int index) const;  // the tooltip, else the caption, else the key
+  std::wstring buttonName(int index) const;  // the accessible name, else the tooltip, the caption, the key
   DWORD stateFlags() const;                  // of the bar as a whole
   DWORD buttonStateFlags(int index) const;
   bool canPress(int index) const;  // usable, in sight and not waiting for a modal window
   int buttonAt(POINT point) const;
-  int focusedButton() const { return focused; }
   void press(int index);
   void focusButton(int index);
 
   static constexpr int none = -1;
 
  private:
+  std::wstring wholeName() const override { return accessibleName(); }
+  LONG wholeRole() const override { return ROLE_SYSTEM_TOOLBAR; }
+  int partCount() const override { return buttonCount(); }
+  std::wstring partName(int part) const override { return buttonName(part); }
+  DWORD wholeStateFlags() const override { return stateFlags(); }
+  DWORD partStateFlags(int part) const override { return buttonStateFlags(part); }
+  RECT partArea(int part) const override { return button(part).area; }
+  int partAt(POINT point) const override { return buttonAt(point); }
+  int focusedPart() const override { return focused; }
+  bool canPressPart(int part) const override { return canPress(part); }
+  bool focusPart(int part) override;
+  void doPart(int part) override { press(part); }
+
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   bool takesFocus() const override;
   void onHidden() override;
@@ -78,11 +94,13 @@ class SystemButtonBar final : public ControlOf<ButtonBar> {
   void offerTooltip(POINT point);
   void onMouseMove(POINT point);
   void onMouseLeave();
+  void onActivatingPress();
   void onButtonDown(POINT point);
   void onButtonUp(POINT point);
   void cancelPress();
   void setHot(int index);
   bool onKey(WPARAM key, LPARAM flags);
+  bool raiseArrowKey(WPARAM key);
   void stepFocus(int direction);
   int nextUsable(int from, int direction) const;
   void onFocus(bool gained);
@@ -94,6 +112,7 @@ class SystemButtonBar final : public ControlOf<ButtonBar> {
   POINT pictureOrigin(const BarButton& item, int index) const;
   const Picture* pictureOf(BarButton& item);
   void measure(BarLayout& measured);
+  void measureRow(BarLayout& measured, SIZE bar);
   bool looksDown(int index) const;
 
   std::vector<BarLayout> layouts;
@@ -108,7 +127,8 @@ class SystemButtonBar final : public ControlOf<ButtonBar> {
   int hot = none;
   int pressed = none;
   int focused = none;
-  BarAccessible* accessible = nullptr;  // holds a reference while it is not null
+  int arriving = none;                    // where a press that activates the form first is about to go down
+  PartsAccessible* accessible = nullptr;  // holds a reference while it is not null
 };
 
 }  // namespace nerida

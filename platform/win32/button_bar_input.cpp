@@ -3,7 +3,6 @@
 
 #include <utility>
 
-#include "platform/win32/accessible_bar.h"
 #include "platform/win32/button_bar.h"
 #include "platform/win32/form_window.h"
 #include "platform/win32/paint_scope.h"
@@ -33,6 +32,9 @@ LRESULT SystemButtonBar::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_MOUSELEAVE:
       onMouseLeave();
       return 0;
+    case WM_MOUSEACTIVATE:
+      if (HIWORD(lParam) == WM_LBUTTONDOWN) onActivatingPress();
+      break;
     case WM_LBUTTONDOWN:
       onButtonDown(point);
       return 0;
@@ -57,7 +59,7 @@ LRESULT SystemButtonBar::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_GETOBJECT:
       if (static_cast<LONG>(lParam) == OBJID_CLIENT) {
-        if (accessible == nullptr) accessible = new BarAccessible(*this);
+        if (accessible == nullptr) accessible = new PartsAccessible(*this, *this);
         return accessible->answer(wParam);
       }
       break;
@@ -93,6 +95,9 @@ void SystemButtonBar::onMouseMove(POINT point) {
   // While a button is held, no other one answers to the pointer.
   const bool answers = isUsable(under) && (pressed == none || pressed == under);
   setHot(answers ? under : none);
+  if (!form().pointerMoved(window(), point)) return;
+  arriving = none;
+  if (under != none) form().raise(buttonMouseMove, std::string(button(under).key));  // the handler may show others
 }
 
 // Before the tooltip window hears of the pointer, which may rest here at once.
@@ -110,10 +115,20 @@ void SystemButtonBar::onMouseLeave() {
 // Nobody tells a window that is gone from under the pointer that the pointer left it.
 void SystemButtonBar::onHidden() {
   cancelPress();
+  arriving = none;
   onMouseLeave();
 }
 
+// The form is activated before the button goes down, and what loses the activation may ask where.
+void SystemButtonBar::onActivatingPress() {
+  const DWORD place = GetMessagePos();
+  POINT point = {GET_X_LPARAM(place), GET_Y_LPARAM(place)};
+  ScreenToClient(window(), &point);
+  arriving = buttonAt(point);
+}
+
 void SystemButtonBar::onButtonDown(POINT point) {
+  arriving = none;
   const int under = buttonAt(point);
   form().setShowsFocus(false);
   if (pressed != none || !isUsable(under)) return;
@@ -162,18 +177,44 @@ void SystemButtonBar::focusButton(int index) {
   announce(EVENT_OBJECT_FOCUS, index);
 }
 
+bool SystemButtonBar::focusPart(int part) {
+  focusButton(part);
+  SetFocus(window());
+  return true;
+}
+
+void SystemButtonBar::focusButton(const std::string& key) {
+  for (int i = 0; i < buttonCount(); ++i) {
+    if (button(i).key != key || !canPress(i)) continue;
+    form().setShowsFocus(true);
+    focusButton(i);
+    SetFocus(window());
+    return;
+  }
+}
+
+// The form may want the arrow keys to lead elsewhere than along the bar.
+bool SystemButtonBar::raiseArrowKey(WPARAM key) {
+  if (!arrowKey || !isUsable(focused)) return false;
+  const Key arrow = key == VK_LEFT ? Key::left : key == VK_RIGHT ? Key::right : key == VK_UP ? Key::up : Key::down;
+  const std::string from = button(focused).key;
+  return arrowKey(from, arrow);
+}
+
 void SystemButtonBar::stepFocus(int direction) {
   const int start = focused == none && direction < 0 ? 0 : focused;
   focusButton(nextUsable(start, direction));
 }
 
 void SystemButtonBar::onFocus(bool gained) {
+  if (gained) form().raise(gotFocus);
   if (gained && !isUsable(focused)) {
     stepFocus(1);
   } else {
     redraw(focused);
   }
   if (gained) announce(EVENT_OBJECT_FOCUS, focused);
+  if (!gained) form().raise(lostFocus);
 }
 
 bool SystemButtonBar::onKey(WPARAM key, LPARAM flags) {
@@ -184,6 +225,7 @@ bool SystemButtonBar::onKey(WPARAM key, LPARAM flags) {
     case VK_RIGHT:
     case VK_DOWN:
       form().setShowsFocus(true);
+      if (raiseArrowKey(key)) return true;
       stepFocus(key == VK_LEFT || key == VK_UP ? -1 : 1);
       return true;
     case VK_HOME:

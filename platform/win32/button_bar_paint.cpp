@@ -13,7 +13,7 @@ constexpr int edge = 1;        // around the picture of a button
 constexpr int captionGap = 2;  // between picture and caption
 constexpr int captionEnd = 5;  // after the caption
 
-Rgb systemColor(int index) {
+PixelColor systemColor(int index) {
   const COLORREF color = GetSysColor(index);
   return RGB(GetBValue(color), GetGValue(color), GetRValue(color));  // the other byte order
 }
@@ -31,10 +31,10 @@ struct Look {
 // would not tell the states apart.
 void paintFace(PixelCanvas& canvas, Box box, const Look& look) {
   if (!look.held && !look.latched && !look.hot) return;
-  const Rgb face = systemColor(COLOR_BTNFACE);
-  const Rgb tint = systemColor(COLOR_HIGHLIGHT);
-  const Rgb light = systemColor(COLOR_BTNHIGHLIGHT);
-  const Rgb shadow = systemColor(COLOR_BTNSHADOW);
+  const PixelColor face = systemColor(COLOR_BTNFACE);
+  const PixelColor tint = systemColor(COLOR_HIGHLIGHT);
+  const PixelColor light = systemColor(COLOR_BTNHIGHLIGHT);
+  const PixelColor shadow = systemColor(COLOR_BTNSHADOW);
   const Box inside = {box.left + 1, box.top + 1, box.right - 1, box.bottom - 1};
   if (look.held) {
     canvas.fill(inside, mixed(face, tint, 38));
@@ -50,11 +50,23 @@ void paintFace(PixelCanvas& canvas, Box box, const Look& look) {
 
 }  // namespace
 
+// The buttons of a bar that is taller than wide lie one below the other and share its height.
 void SystemButtonBar::measure(BarLayout& measured) {
+  const LONG count = static_cast<LONG>(measured.buttons.size());
+  const SIZE bar = size();
+  if (bar.cy <= bar.cx || count < 2) {
+    measureRow(measured, bar);
+    return;
+  }
+  for (LONG i = 0; i < count; ++i) {
+    measured.buttons[static_cast<std::size_t>(i)].area = {0, bar.cy * i / count, bar.cx, bar.cy * (i + 1) / count};
+  }
+}
+
+void SystemButtonBar::measureRow(BarLayout& measured, SIZE bar) {
   const Scale& scale = form().scale();
   const HDC dc = form().backBuffer().context();
   const Selected font(dc, form().font());
-  const SIZE bar = size();
   LONG left = 0;
   for (BarButton& item : measured.buttons) {
     LONG width = scale.design(item.spec.width) + 2 * scale.design(edge);
@@ -112,7 +124,7 @@ POINT SystemButtonBar::pictureOrigin(const BarButton& item, int index) const {
   const Scale& scale = form().scale();
   const LONG sunk = looksDown(index) ? 1 : 0;
   const LONG height = item.picture ? item.picture->height : scale.design(item.spec.height);
-  return {item.area.left + scale.design(edge) + sunk, (item.area.bottom - height) / 2 + sunk};
+  return {item.area.left + scale.design(edge) + sunk, (item.area.top + item.area.bottom - height) / 2 + sunk};
 }
 
 void SystemButtonBar::paintCaption(HDC dc, int index) {

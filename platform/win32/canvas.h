@@ -15,6 +15,9 @@ class SystemCanvas final : public Canvas {
   void line(Twips x1, Twips y1, Twips x2, Twips y2, SystemColor color) override;
   void box(Twips x1, Twips y1, Twips x2, Twips y2, SystemColor color) override;
   void filledBox(Twips x1, Twips y1, Twips x2, Twips y2, SystemColor color) override;
+  void line(Twips x1, Twips y1, Twips x2, Twips y2, Rgb color) override;
+  void filledBox(Twips x1, Twips y1, Twips x2, Twips y2, Rgb color) override;
+  void focusBox(Twips x1, Twips y1, Twips x2, Twips y2) override;
 
  private:
   RECT pixels(Twips x1, Twips y1, Twips x2, Twips y2) const;

@@ -47,6 +47,8 @@ Point SystemDesktop::screenToClient(WindowHandle window, Point screen) {
   return {static_cast<std::int32_t>(point.x), static_cast<std::int32_t>(point.y)};
 }
 
+WindowHandle SystemDesktop::activeWindow() { return reinterpret_cast<WindowHandle>(GetActiveWindow()); }
+
 void SystemDesktop::setForegroundWindow(WindowHandle window) {
   if (!applicationIsLosingFocus() && foregroundIsOurs()) SetForegroundWindow(handleOf(window));
 }

@@ -11,6 +11,7 @@ class SystemDesktop : public Desktop {
   Size screenSize() override;
   void setMousePointer(MousePointer pointer) override;
   Point screenToClient(WindowHandle window, Point screen) override;
+  WindowHandle activeWindow() override;
   void setForegroundWindow(WindowHandle window) override;
 };
 

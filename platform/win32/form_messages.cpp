@@ -1,4 +1,6 @@
 // What a form does with its messages: activation, clicks, the close box, and the procedure hooked in front.
+#include <windowsx.h>
+
 #include "platform/win32/form_window.h"
 
 namespace nerida {
@@ -97,6 +99,9 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_KEYDOWN:
       if (handleNavigation(message, wParam, nullptr)) return 0;
       break;
+    case WM_MOUSEMOVE:
+      if (pointerMoved(hwnd, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) raise(mouseMoved);
+      break;
     case WM_LBUTTONDOWN:
       clickStarted = true;
       return 0;
@@ -149,6 +154,13 @@ void FormWindow::onActivate(bool active) {
     rememberFocus();
     raise(deactivated);
   }
+}
+
+bool FormWindow::pointerMoved(HWND over, POINT point) {
+  ClientToScreen(over, &point);
+  const bool isSame = lastPointer && lastPointer->x == point.x && lastPointer->y == point.y;
+  lastPointer = point;
+  return !isSame;
 }
 
 void FormWindow::rememberFocus() {

@@ -7,6 +7,7 @@
 #include "platform/win32/button_bar.h"
 #include "platform/win32/combo_box.h"
 #include "platform/win32/label.h"
+#include "platform/win32/own_dialog.h"
 #include "platform/win32/picture_box.h"
 #include "platform/win32/popup_menu.h"
 #include "platform/win32/text.h"
@@ -121,14 +122,18 @@ RECT FormWindow::place(const Bounds& bounds) const {
   return at;
 }
 
-// Pictures lie over the other controls, wherever they stand in the layout: the first child is the topmost.
+// The first child is the topmost. On a popup controls lie on a panel, a picture that its layout lists behind them; on
+// other forms pictures lie over the other controls, wherever they stand in the layout.
 void FormWindow::createControls(std::span<const ControlLayout> rows) {
   controls.reserve(rows.size());  // a control that has its window must find its place
+  const auto isInFront = [this](const ControlLayout& row) {
+    return frame == FormFrame::popup || row.kind == ControlKind::pictureBox;
+  };
   for (const ControlLayout& row : rows) {
-    if (row.kind == ControlKind::pictureBox) controls.push_back(makeControl(*this, row));
+    if (isInFront(row)) controls.push_back(makeControl(*this, row));
   }
   for (const ControlLayout& row : rows) {
-    if (row.kind != ControlKind::pictureBox) controls.push_back(makeControl(*this, row));
+    if (!isInFront(row)) controls.push_back(makeControl(*this, row));
   }
 }
 
@@ -185,7 +190,9 @@ void FormWindow::hide() {
   const Use use(*this);
   if (menuOpen) EndMenu();
   if (tips) tips->hide();
+  closeDialogsOf(hwnd);
   ShowWindow(hwnd, SW_HIDE);
+  lastPointer.reset();
   for (const auto& control : controls) control->onHidden();
 }
 

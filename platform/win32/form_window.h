@@ -60,15 +60,19 @@ class FormWindow final : public Window {
   RECT place(const Bounds& bounds) const;
   // The topmost control at a point of the client area.
   const NativeControl* controlAt(POINT point) const;
+  // Whether the pointer has moved since the last time: the system also tells of moves when a window came or went below
+  // a pointer that rests. The point is in the window's coordinates.
+  bool pointerMoved(HWND over, POINT point);
   bool showsFocus() const { return focusShown; }
   void setShowsFocus(bool shows);
   // Tab, Shift+Tab and Escape; true when the key has been used up.
   bool handleNavigation(UINT message, WPARAM key, const NativeControl* from);
 
-  // Raises an event of the form or of one of its controls, unless the form is on its way out.
+  // Raises an event of the form or of one of its controls; unless the form is on its way out, which answers nothing.
   template <class Event, class... Arguments>
-  void raise(const Event& event, Arguments&&... arguments) {
-    if (!disposed && event) event(std::forward<Arguments>(arguments)...);
+  auto raise(const Event& event, Arguments&&... arguments) -> typename Event::result_type {
+    using Result = typename Event::result_type;
+    return !disposed && event ? event(std::forward<Arguments>(arguments)...) : Result();
   }
 
   // Runs a window procedure of the form or of a control: the module stays, the form stays, no exception leaves.
@@ -134,6 +138,7 @@ class FormWindow final : public Window {
   int rowsNeed = 1;  // pixels that the rows in sight were laid out for, and pixels that there are
   int rowsHave = 1;
   HWND lastFocus = nullptr;
+  std::optional<POINT> lastPointer;  // on the screen
   bool focusShown = false;
   bool clickStarted = false;
 

@@ -1,14 +1,47 @@
 #include "platform/win32/label.h"
 
+#include <windowsx.h>
+
+#include "platform/win32/form_window.h"
 #include "platform/win32/text.h"
 
 namespace nerida {
 
-// Without a notification style the system's label lets clicks through to the form, which is what we want of it.
+// Without a notification style the system's label lets clicks through to what is below, which is what we want of it as
+// long as nobody asks for its own.
 SystemLabel::SystemLabel(FormWindow& owner, const ControlLayout& row) : ControlOf(owner, row) {
   createStandard(L"STATIC", wide(row.text).c_str(), SS_LEFT | SS_NOPREFIX, 0);
 }
 
 void SystemLabel::setCaption(const std::string& text) { SetWindowTextW(window(), wide(text).c_str()); }
+
+LRESULT SystemLabel::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  const POINT point = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+  if (!hasMouse()) return ControlOf::onMessage(message, wParam, lParam);
+  switch (message) {
+    case WM_NCHITTEST:
+      return HTCLIENT;
+    case WM_MOUSEMOVE:
+      if (form().pointerMoved(window(), point)) form().raise(mouseMove);
+      break;
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+      SetCapture(window());
+      form().raise(mouseDown);
+      return 0;
+    case WM_LBUTTONUP:
+      if (GetCapture() != window()) return 0;
+      ReleaseCapture();
+      if (RECT client; GetClientRect(window(), &client) && PtInRect(&client, point)) form().raise(mouseUp);
+      return 0;
+    default:
+      break;
+  }
+  return ControlOf::onMessage(message, wParam, lParam);
+}
+
+void SystemLabel::onHidden() {
+  if (GetCapture() == window()) ReleaseCapture();
+}
 
 }  // namespace nerida

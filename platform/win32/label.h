@@ -8,6 +8,11 @@ class SystemLabel final : public ControlOf<Label> {
  public:
   SystemLabel(FormWindow& owner, const ControlLayout& row);
   void setCaption(const std::string& text) override;
+
+ private:
+  LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+  bool hasMouse() const { return mouseMove || mouseDown || mouseUp; }
+  void onHidden() override;
 };
 
 }  // namespace nerida

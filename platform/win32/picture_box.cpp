@@ -1,10 +1,13 @@
 #include "platform/win32/picture_box.h"
 
+#include <windowsx.h>
+
 #include <utility>
 
 #include "platform/win32/canvas.h"
 #include "platform/win32/form_window.h"
 #include "platform/win32/paint_scope.h"
+#include "platform/win32/text.h"
 
 namespace nerida {
 
@@ -12,19 +15,42 @@ SystemPictureBox::SystemPictureBox(FormWindow& owner, const ControlLayout& row) 
   createOwn(pictureBoxClass, 0);
 }
 
-void SystemPictureBox::repaint() { InvalidateRect(window(), nullptr, TRUE); }
+SystemPictureBox::~SystemPictureBox() {
+  if (accessible != nullptr) accessible->disconnect();
+}
 
-// The drawing keeps its size; where the box is lower than it was laid out, its middle is seen.
+void SystemPictureBox::repaint() { InvalidateRect(window(), nullptr, FALSE); }
+
+void SystemPictureBox::setFocus() { SetFocus(window()); }
+
+void SystemPictureBox::setTooltip(const std::string& text) {
+  tooltip = wide(text);
+  offeredName.clear();
+}
+
+// In memory first: what changes under the pointer must not flicker. The drawing keeps its size; where the box is lower
+// than it was laid out, its middle is seen.
 void SystemPictureBox::draw(HDC target) {
-  const int lost = form().scale().pixelsY(layout().bounds.height) - static_cast<int>(size().cy);
+  const SIZE extent = size();
+  if (extent.cx <= 0 || extent.cy <= 0) return;
+  BackBuffer& buffer = form().backBuffer();
+  buffer.canvas(extent.cx, extent.cy);  // room for it
+  const RECT whole = {0, 0, extent.cx, extent.cy};
+  FillRect(buffer.context(), &whole, GetSysColorBrush(COLOR_BTNFACE));
+  const int lost = form().scale().pixelsY(layout().bounds.height) - static_cast<int>(extent.cy);
   POINT origin = {};
-  OffsetViewportOrgEx(target, 0, -lost / 2, &origin);
-  SystemCanvas canvas(target, form().scale());
+  OffsetViewportOrgEx(buffer.context(), 0, -lost / 2, &origin);
+  SystemCanvas canvas(buffer.context(), form().scale());
   form().raise(paint, static_cast<Canvas&>(canvas));
-  SetViewportOrgEx(target, origin.x, origin.y, nullptr);
+  SetViewportOrgEx(buffer.context(), origin.x, origin.y, nullptr);
+  buffer.copyTo(target, extent.cx, extent.cy);
 }
 
 LRESULT SystemPictureBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
+    relayTooltip(message, wParam, lParam);
+    return onMouse(message, lParam) ? 0 : passOn(message, wParam, lParam);
+  }
   switch (message) {
     case WM_PAINT: {
       const PaintScope painting(window());
@@ -34,16 +60,33 @@ LRESULT SystemPictureBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) 
     case WM_PRINTCLIENT:
       draw(reinterpret_cast<HDC>(wParam));
       return 0;
-    case WM_LBUTTONDOWN:
-      clickStarted = true;
+    case WM_ERASEBKGND:
+      return TRUE;
+    case WM_SETFOCUS:
+      form().raise(gotFocus);
+      return 0;
+    case WM_KILLFOCUS:
+      form().raise(lostFocus);
+      return 0;
+    case WM_KEYDOWN:
+      if (form().handleNavigation(message, wParam, this) || onKey(wParam, lParam)) return 0;
       break;
-    case WM_LBUTTONUP:
-      if (std::exchange(clickStarted, false)) form().raise(form().clicked);
+    case WM_SHOWWINDOW:
+      if (wParam == FALSE) onHidden();
+      break;
+    case WM_GETOBJECT:
+      if (static_cast<LONG>(lParam) == OBJID_CLIENT && parts) {
+        if (accessible == nullptr) accessible = new PartsAccessible(*this, *this);
+        return accessible->answer(wParam);
+      }
+      break;
+    case WM_NCDESTROY:
+      if (accessible != nullptr) std::exchange(accessible, nullptr)->disconnect();
       break;
     default:
       break;
   }
-  return ControlOf::onMessage(message, wParam, lParam);
+  return passOn(message, wParam, lParam);
 }
 
 }  // namespace nerida

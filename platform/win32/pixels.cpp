@@ -6,7 +6,7 @@ namespace nerida {
 namespace {
 
 // Lays a colour multiplied by its alpha over an opaque one.
-Rgb over(std::uint32_t color, Rgb below) {
+PixelColor over(std::uint32_t color, PixelColor below) {
   const std::uint32_t rest = 255 - (color >> 24);
   const auto channel = [&](unsigned shift) {
     const std::uint32_t sum = (color >> shift & 255) + ((below >> shift & 255) * rest + 127) / 255;
@@ -25,7 +25,7 @@ std::uint32_t greyed(std::uint32_t color) {
 
 }  // namespace
 
-Rgb mixed(Rgb a, Rgb b, int percentOfB) {
+PixelColor mixed(PixelColor a, PixelColor b, int percentOfB) {
   const auto part = static_cast<std::uint32_t>(percentOfB);
   const auto channel = [&](unsigned shift) {
     return (((a >> shift & 255) * (100 - part) + (b >> shift & 255) * part + 50) / 100) << shift;
@@ -37,20 +37,20 @@ Box PixelCanvas::clipped(Box box) const {
   return {std::max(box.left, 0), std::max(box.top, 0), std::min(box.right, width), std::min(box.bottom, height)};
 }
 
-void PixelCanvas::dot(int x, int y, Rgb color) {
+void PixelCanvas::dot(int x, int y, PixelColor color) {
   if (x >= 0 && y >= 0 && x < width && y < height) at(x, y) = color;
 }
 
-void PixelCanvas::fill(Box box, Rgb color) { fillChecked(box, color, color); }
+void PixelCanvas::fill(Box box, PixelColor color) { fillChecked(box, color, color); }
 
-void PixelCanvas::fillChecked(Box box, Rgb a, Rgb b) {
+void PixelCanvas::fillChecked(Box box, PixelColor a, PixelColor b) {
   const Box part = clipped(box);
   for (int y = part.top; y < part.bottom; ++y) {
     for (int x = part.left; x < part.right; ++x) at(x, y) = (x + y) % 2 == 0 ? a : b;
   }
 }
 
-void PixelCanvas::frame(Box box, Rgb topLeft, Rgb bottomRight) {
+void PixelCanvas::frame(Box box, PixelColor topLeft, PixelColor bottomRight) {
   for (int x = box.left + 1; x < box.right - 1; ++x) {
     dot(x, box.top, topLeft);
     dot(x, box.bottom - 1, bottomRight);
@@ -61,7 +61,7 @@ void PixelCanvas::frame(Box box, Rgb topLeft, Rgb bottomRight) {
   }
 }
 
-void PixelCanvas::dottedFrame(Box box, Rgb color) {
+void PixelCanvas::dottedFrame(Box box, PixelColor color) {
   const auto dotted = [&](int x, int y) {
     if ((x + y) % 2 == 0) dot(x, y, color);
   };

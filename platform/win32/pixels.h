@@ -8,9 +8,9 @@
 namespace nerida {
 
 // Opaque colours as they lie in a picture: 0x00RRGGBB.
-using Rgb = std::uint32_t;
+using PixelColor = std::uint32_t;
 
-Rgb mixed(Rgb a, Rgb b, int percentOfB);
+PixelColor mixed(PixelColor a, PixelColor b, int percentOfB);
 
 struct Box {
   int left, top, right, bottom;  // right and bottom are outside
@@ -22,11 +22,11 @@ class PixelCanvas {
   PixelCanvas(std::uint32_t* start, int lineLength, int visibleWidth, int visibleHeight)
       : pixels(start), stride(lineLength), width(visibleWidth), height(visibleHeight) {}
 
-  void fill(Box box, Rgb color);
-  void fillChecked(Box box, Rgb a, Rgb b);  // every other pixel
+  void fill(Box box, PixelColor color);
+  void fillChecked(Box box, PixelColor a, PixelColor b);  // every other pixel
   // A one-pixel frame with softened corners, lit from the top left.
-  void frame(Box box, Rgb topLeft, Rgb bottomRight);
-  void dottedFrame(Box box, Rgb color);
+  void frame(Box box, PixelColor topLeft, PixelColor bottomRight);
+  void dottedFrame(Box box, PixelColor color);
   void draw(const Picture& picture, int x, int y);
   // The picture without its colours and half faded, as on something that cannot be used.
   void drawGreyed(const Picture& picture, int x, int y);
@@ -36,7 +36,7 @@ class PixelCanvas {
   void blend(const Picture& picture, int x, int y, Shade shade);
   Box clipped(Box box) const;
   std::uint32_t& at(int x, int y) { return pixels[static_cast<std::ptrdiff_t>(y) * stride + x]; }
-  void dot(int x, int y, Rgb color);
+  void dot(int x, int y, PixelColor color);
 
   std::uint32_t* pixels;
   int stride;

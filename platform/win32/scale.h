@@ -27,12 +27,18 @@ class Scale {
             pixelsY(bounds.top + bounds.height)};
   }
 
+  // The place of a pixel, to the nearest twip.
+  Twips twipsX(int pixel) const { return twips(pixel, dpiX); }
+  Twips twipsY(int pixel) const { return twips(pixel, dpiY); }
+
   // A length that is given for 96 dots per inch, and the scale in percent.
   int design(int length) const { return MulDiv(length, dpiX, USER_DEFAULT_SCREEN_DPI); }
   int percent() const { return MulDiv(100, dpiX, USER_DEFAULT_SCREEN_DPI); }
 
  private:
   static int pixels(Twips length, int dpi) { return static_cast<int>(std::nearbyint(length.value * dpi / 1440.0)); }
+
+  static Twips twips(int pixel, int dpi) { return {static_cast<std::int32_t>(std::nearbyint(pixel * 1440.0 / dpi))}; }
 
   int dpiX;
   int dpiY;

@@ -31,6 +31,10 @@ LRESULT SystemTextBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   if (form().handleNavigation(message, wParam, this)) {
     return 0;
   }
+  if (message == WM_KEYDOWN && wParam == VK_RETURN) {
+    form().raise(enterPressed);
+    return 0;
+  }
   // Keys that are no text would only beep.
   if (message == WM_CHAR && (wParam == VK_TAB || wParam == VK_RETURN || wParam == VK_ESCAPE)) return 0;
   if (message == WM_SETFOCUS && form().showsFocus()) PostMessageW(window(), EM_SETSEL, 0, -1);

@@ -44,8 +44,8 @@ TEST_F(ControlHide, HidesTheCatalogBeforeTheToolbarAndItsPopups) {
 }
 
 TEST_F(ControlHide, HidesPopupsOfAToolbarThatDoesNotShow) {
-  library.lighting.ShowSelf(1, 1);
-  library.lineColors.ShowSelf(1, 1);
+  showBeside(library.lighting);
+  showBeside(library.lineColors);
   take();
   control->ToolbarHide();
   EXPECT_THAT(take(), ElementsAre("frmLineColors: hide", foregroundLine(), "barLS(1): LineColorFill state 0",

@@ -183,6 +183,7 @@ TEST_F(ControlStart, ASecondControlKeepsTheScreensFactorsAndReadsTheRestAnew) {
 
 TEST_F(ControlStart, ASecondControlMarksLoadedFormsAsLoadedAgain) {
   create();
+  library.state.gModelObject = model;
   library.animation.ShowSelf(1, 2);
   const NeridaWindow second(library);
   EXPECT_THAT(library.state.gFormLoaded,

@@ -35,9 +35,16 @@ Desk::Desk() {
       {"AnimationFrameCount", std::int32_t{0}},
       {"AnimationCurrentFrame", std::int32_t{0}},
       {"AnimationState", false},
+      {"IsBackgroundDefault", true},
+      {"IsLineColorDefault", true},
+      {"IsSurfaceColorDefault", true},
+      {"BackgroundColor", std::int32_t{0}},
+      {"LineColor", std::int32_t{0}},
+      {"SurfaceColor", std::int32_t{0}},
   };
   for (const char* member : {"RefreshDisplay", "MoveX", "MoveY", "RotateX", "RotateY", "RotateZ", "ScaleModel",
-                             "ResetHome", "SetOrientation", "StopTimer", "StartTimer"}) {
+                             "ResetHome", "SetOrientation", "StopTimer", "StartTimer", "RestoreDefaultBackgroundColor",
+                             "RestoreDefaultLineColor", "RestoreDefaultSurfaceColor"}) {
     model->functions[member] = nullptr;
   }
   setStyles({"Shaded", "Ink Outline"});
@@ -66,6 +73,18 @@ headless::FormWindow& Desk::form(const std::string& name) const {
   headless::FormWindow* window = platform.windows.find(name);
   if (!window) throw std::logic_error(name + " is not loaded");
   return *window;
+}
+
+void Desk::pressWithMouse(headless::Bar& target, const std::string& key) {
+  target.heldKey = key;
+  toolbar().userActivates();
+  target.heldKey.clear();
+  target.press(key);
+}
+
+void Desk::showBeside(Popup& popup) {
+  platform.windows.focus.holder = nullptr;
+  popup.ShowSelf(1, 1);
 }
 
 void Desk::answerBoxes(int count) {

@@ -39,11 +39,19 @@ class Desk {
   WindowHandle show(std::int16_t x = 10, std::int16_t y = 20) { return control->ToolbarShow(x, y); }
   void createAndInit();
   void createInitAndShow();
+  // A model whose style buttons all show.
+  void enableStyleButtons() { model->values["InterfaceFlags"] = std::int32_t{1 | 2 | 16}; }
 
   headless::FormWindow& form(const std::string& name) const;
   headless::FormWindow& toolbar() const { return form("frmToolbar"); }
   headless::Bar& bar(const std::string& name, int index = 0) const { return toolbar().bar(name, index); }
   headless::Combo& styles() const { return toolbar().combo("cmbStyles"); }
+
+  // A press as the mouse does it: the toolbar takes the activation while the button is held.
+  void pressWithMouse(headless::Bar& bar, const std::string& key);
+
+  // Shows a popup as if the focus had not been in another one, which closes when it loses it.
+  void showBeside(Popup& popup);
 
   // The user's answers to the message boxes to come.
   void answerBoxes(int count);

@@ -105,7 +105,10 @@ class ToolbarBuild : public DeskTest {
 
 TEST_F(ToolbarBuild, MakesEveryCallInItsOrder) {
   Lines lines = take();
-  std::erase_if(lines, [](const std::string& line) { return !line.starts_with("bar"); });
+  // The popups have bars of their own.
+  std::erase_if(lines, [](const std::string& line) {
+    return !line.starts_with("barM") && !line.starts_with("barLS(") && !line.starts_with("barWorld(");
+  });
   EXPECT_THAT(lines, ElementsAreArray(expectedBuilding()));
 }
 
@@ -172,6 +175,10 @@ TEST_F(ToolbarBuild, NamesTheFieldsByTheirTooltips) {
 // Everything that a glyph draws, as text.
 class SketchPad : public Canvas {
  public:
+  // The glyphs use no colours of their own and take no focus.
+  void line(Twips, Twips, Twips, Twips, Rgb) override { ADD_FAILURE(); }
+  void filledBox(Twips, Twips, Twips, Twips, Rgb) override { ADD_FAILURE(); }
+  void focusBox(Twips, Twips, Twips, Twips) override { ADD_FAILURE(); }
   void line(Twips x1, Twips y1, Twips x2, Twips y2, SystemColor color) override { add("line", x1, y1, x2, y2, color); }
   void box(Twips x1, Twips y1, Twips x2, Twips y2, SystemColor color) override { add("box", x1, y1, x2, y2, color); }
   void filledBox(Twips x1, Twips y1, Twips x2, Twips y2, SystemColor color) override {

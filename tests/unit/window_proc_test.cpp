@@ -52,9 +52,9 @@ TEST_F(WindowProc, ActivationIsNotPassedOn) {
 }
 
 TEST_F(WindowProc, LosingTheFocusClosesPopupsInTheirOrderAndTheyStayClosed) {
-  library.lighting.ShowSelf(1, 1);
-  library.animation.ShowSelf(1, 1);
-  library.lineThicknessMenu.ShowSelf(1, 1);
+  showBeside(library.lighting);
+  showBeside(library.animation);
+  showBeside(library.lineThicknessMenu);
   take();
   lose();
   EXPECT_THAT(take(), ElementsAre("frmToolbar: hide", "frmLineThicknessMenu: hide", foregroundLine(),

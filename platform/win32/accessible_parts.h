@@ -1,19 +1,39 @@
 #pragma once
 
+#include <string>
+
 #include "platform/win32/accessible.h"
 
 namespace nerida {
 
-class SystemButtonBar;
+class NativeControl;
 
-// A button bar as assistive tools see it: a toolbar whose children 1, 2, … are the buttons of the shown layout.
-// It may outlive the bar, and then answers that it is not connected any more.
-class BarAccessible final : public AccessibleBase {
+// What a control that draws its parts itself tells assistive tools of them. A part is named by its index.
+class ControlParts {
  public:
-  explicit BarAccessible(SystemButtonBar& shown) : bar(&shown) {}
+  virtual ~ControlParts() = default;
+  virtual std::wstring wholeName() const = 0;
+  virtual LONG wholeRole() const = 0;
+  virtual DWORD wholeStateFlags() const = 0;
+  virtual int partCount() const = 0;
+  virtual std::wstring partName(int part) const = 0;
+  virtual DWORD partStateFlags(int part) const = 0;
+  virtual RECT partArea(int part) const = 0;  // in the control's window
+  virtual int partAt(POINT point) const = 0;  // -1 for none
+  virtual int focusedPart() const = 0;        // -1 for none
+  virtual bool canPressPart(int part) const = 0;
+  virtual bool focusPart(int part) = 0;  // false where a tool cannot move the focus
+  virtual void doPart(int part) = 0;
+};
+
+// Such a control as assistive tools see it: its children 1, 2, … are its parts, push buttons all of them. It may
+// outlive the control, and then answers that it is not connected any more.
+class PartsAccessible final : public AccessibleBase {
+ public:
+  PartsAccessible(NativeControl& shown, ControlParts& drawn) : control(&shown), parts(drawn) {}
 
   LRESULT answer(WPARAM wParam);  // to WM_GETOBJECT
-  void disconnect();              // the bar goes, and its reference with it
+  void disconnect();              // the control goes, and its reference with it
 
   STDMETHODIMP get_accParent(IDispatch** parent) override;
   STDMETHODIMP get_accChildCount(LONG* count) override;
@@ -38,10 +58,11 @@ class BarAccessible final : public AccessibleBase {
   STDMETHODIMP put_accValue(VARIANT child, BSTR value) override;
 
  private:
-  // Whether a child identifier means the bar itself (-1) or one of its buttons (their index).
+  // Whether a child identifier means the control itself (-1) or one of its parts (their index).
   HRESULT resolve(const VARIANT& child, int& index) const;
 
-  SystemButtonBar* bar;
+  NativeControl* control;
+  ControlParts& parts;  // gone when the control is
 };
 
 }  // namespace nerida

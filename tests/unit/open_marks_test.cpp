@@ -1,0 +1,168 @@
+// The marks of the open popups: a press always opens at once, except the one that has just closed the popup.
+#include "tests/unit/desk.h"
+
+namespace nerida {
+namespace {
+
+using testing::ElementsAre;
+
+class OpenMarks : public DeskTest {
+ protected:
+  void SetUp() override {
+    enableStyleButtons();
+    createInitAndShow();
+  }
+  headless::Bar& fill() { return bar("barLS", 2); }
+  void press() { pressWithMouse(fill(), "SurfaceColorFill"); }
+  bool isOpen() { return library.surfaceColors.isVisible(); }
+  void open() {
+    press();
+    ASSERT_TRUE(isOpen());
+  }
+  void expectNextPressOpens() {
+    ASSERT_FALSE(isOpen());
+    EXPECT_EQ(fill().button("SurfaceColorFill").state, buttonUp);
+    press();
+    EXPECT_TRUE(isOpen());
+  }
+};
+
+TEST_F(OpenMarks, FallAfterAChoice) {
+  open();
+  form("frmSurfaceColors").picture("pnlColor").pressPart(1);
+  expectNextPressOpens();
+}
+
+TEST_F(OpenMarks, FallAfterTheStyleDefault) {
+  open();
+  form("frmSurfaceColors").picture("picLSSwatch").pressPart(0);
+  expectNextPressOpens();
+}
+
+TEST_F(OpenMarks, FallAfterACancelledDialog) {
+  open();
+  platform.boxes.colorChoices = {std::nullopt};
+  form("frmSurfaceColors").picture("picMoreColors").pressPart(0);
+  expectNextPressOpens();
+}
+
+TEST_F(OpenMarks, FallWhenTheUserGoesElsewhere) {
+  open();
+  platform.windows.activateElsewhere();
+  expectNextPressOpens();
+}
+
+TEST_F(OpenMarks, FallOnAPressElsewhereOnTheToolbar) {
+  open();
+  bar("barWorld").heldKey = "Move";
+  toolbar().userActivates();
+  bar("barWorld").heldKey.clear();
+  expectNextPressOpens();
+}
+
+TEST_F(OpenMarks, FallWithEscape) {
+  open();
+  form("frmSurfaceColors").userCloses();
+  expectNextPressOpens();
+}
+
+TEST_F(OpenMarks, FallWhenAnotherProgramIsClickedWhileTheButtonIsHeldDown) {
+  open();
+  fill().heldKey = "SurfaceColorFill";
+  platform.windows.activateElsewhere();
+  fill().heldKey.clear();
+  expectNextPressOpens();
+}
+
+TEST_F(OpenMarks, OutliveThePopupUntilThePressThatClosedItArrives) {
+  open();
+  fill().heldKey = "SurfaceColorFill";
+  toolbar().userActivates();
+  EXPECT_FALSE(isOpen());
+  EXPECT_EQ(fill().button("SurfaceColorFill").state, buttonUp);
+  fill().heldKey.clear();
+  fill().press("SurfaceColorFill");
+  expectNextPressOpens();
+}
+
+TEST_F(OpenMarks, FallWhenThatPressEndsOutsideTheButton) {
+  open();
+  fill().heldKey = "SurfaceColorFill";
+  toolbar().userActivates();
+  fill().hover("SurfaceColorFill");  // still held
+  fill().heldKey.clear();
+  fill().hover("SurfaceColorFill");
+  expectNextPressOpens();
+}
+
+TEST_F(OpenMarks, OfTheOtherStyleButtonsFallOnAPress) {
+  open();
+  pressWithMouse(bar("barLS", 1), "LineColorFill");
+  EXPECT_TRUE(library.lineColors.isVisible());
+  expectNextPressOpens();
+}
+
+TEST_F(OpenMarks, FallWithTheMovementButtonsAndAClickOnTheForm) {
+  for (const bool byClick : {true, false}) {
+    bar("barLS", 2).press("SurfaceColorFill");
+    ASSERT_TRUE(isOpen());
+    if (byClick) {
+      toolbar().userClicks();
+    } else {
+      bar("barMove", 1).press("NudgeUp");
+    }
+    take();
+    fill().press("SurfaceColorFill");  // taken for the first press: it shows the popup once more
+    EXPECT_EQ(take().front(), "barLS(2): SurfaceColorFill state 2");
+    fill().press("SurfaceColorFill");
+  }
+}
+
+TEST_F(OpenMarks, OfTheStyleButtonsFallOnAnyWorldButton) {
+  bar("barLS", 2).press("SurfaceColorFill");
+  bar("barWorld").buttonPress("unknown");
+  take();
+  fill().press("SurfaceColorFill");
+  EXPECT_EQ(take().front(), "barLS(2): SurfaceColorFill state 2");
+}
+
+TEST_F(OpenMarks, OfTheLightStaysWhenHelpIsAsked) {
+  bar("barWorld").press("Lighting");
+  bar("barWorld", 2).press("Help");
+  bar("barWorld").press("Lighting");
+  EXPECT_FALSE(library.lighting.isVisible());
+}
+
+TEST_F(OpenMarks, FallWhenTheToolbarHides) {
+  open();
+  control->ToolbarHide();
+  show();
+  expectNextPressOpens();
+}
+
+TEST_F(OpenMarks, FallWhenTheApplicationIsDeactivated) {
+  open();
+  platform.windows.activateApplication(false);
+  platform.windows.activateApplication(true);
+  expectNextPressOpens();
+}
+
+TEST_F(OpenMarks, FollowManyQuickPresses) {
+  for (int i = 0; i < 20; ++i) {
+    press();
+    EXPECT_EQ(isOpen(), i % 2 == 0);
+    EXPECT_EQ(fill().button("SurfaceColorFill").state, isOpen() ? buttonDown : buttonUp);
+  }
+}
+
+TEST_F(OpenMarks, AreAllSetOrAllClearedByTheReportOfAChoice) {
+  library.toolbar.afterChoice(1);
+  bar("barLS", 1).press("LineColorFill");
+  EXPECT_FALSE(library.lineColors.isVisible());
+  library.toolbar.afterChoice(0);
+  bar("barLS", 1).press("LineColorFill");
+  EXPECT_TRUE(library.lineColors.isVisible());
+}
+
+}  // namespace
+}  // namespace nerida
