@@ -1,0 +1,15 @@
+# What the tests that run as Windows programs share.
+
+# GoogleTest for Windows, from the sources that the distribution installs.
+set(gtest /usr/src/googletest/googletest)
+add_library(nerida_gtest STATIC ${gtest}/src/gtest-all.cc ${gtest}/src/gtest_main.cc)
+target_include_directories(nerida_gtest SYSTEM PUBLIC ${gtest}/include PRIVATE ${gtest})
+
+# Every program of the Windows tests is started by this script, under Wine where the machine is no Windows.
+set(NERIDA_RUN ${CMAKE_CURRENT_SOURCE_DIR}/windows/run)
+
+# nerida_windows_test(NAME COMMAND...): they share one registry, one display and its focus, so each runs alone.
+function(nerida_windows_test name)
+  add_test(NAME ${name} COMMAND ${ARGN})
+  set_tests_properties(${name} PROPERTIES RUN_SERIAL TRUE TIMEOUT 120)
+endfunction()
