@@ -1,11 +1,11 @@
 #pragma once
 
-#include <cstdint>
 #include <map>
 #include <string>
 #include <vector>
 
 #include "host/library/geometry.h"
+#include "host/search/model_card.h"
 
 namespace nerida::library {
 
@@ -29,13 +29,7 @@ struct Node {
   std::vector<Node> children;
 };
 
-/// What the catalog knows of a model.
-struct ModelCard {
-  std::int32_t number = 0;
-  std::string name, category, subcategory;
-  std::vector<std::string> keywords;
-  bool animated = false;
-};
+using search::ModelCard;
 
 struct BuiltModel {
   ModelCard card;
