@@ -109,6 +109,7 @@ void SystemButtonBar::offerTooltip(POINT point) {
 
 void SystemButtonBar::onMouseLeave() {
   tracking = false;
+  form().tooltips().pointerLeft();
   setHot(none);
 }
 

@@ -26,6 +26,8 @@ HWND Tooltips::create() {
 }
 
 void Tooltips::offer(HWND control, unsigned part, RECT area, const std::wstring& text) {
+  under = {control, part};
+  if (silent != under) silent.reset();
   if (!known.insert({control, part}).second) return;
   if (!window) window.reset(create());
   TTTOOLINFOW tool = describe(control, part);
@@ -35,7 +37,8 @@ void Tooltips::offer(HWND control, unsigned part, RECT area, const std::wstring&
 }
 
 void Tooltips::relay(HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (!window) return;
+  if (!window || (message == WM_MOUSEMOVE && silent)) return;
+  if (message == WM_LBUTTONDOWN) silent = under;
   MSG relayed = {};
   relayed.hwnd = control;
   relayed.message = message;
@@ -43,6 +46,8 @@ void Tooltips::relay(HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
   relayed.lParam = lParam;
   SendMessageW(window.get(), TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&relayed));
 }
+
+void Tooltips::pointerLeft() { silent.reset(); }
 
 void Tooltips::forget(HWND control) {
   for (auto entry = known.lower_bound({control, 0}); entry != known.end() && entry->first == control;

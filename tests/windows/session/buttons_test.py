@@ -1,5 +1,7 @@
 """The toolbar's buttons under a real mouse."""
 
+import time
+
 from session_case import HOT, PRESSED, UNAVAILABLE, SessionCase, desktop, main, wait_for
 
 WORLD = ["Replace Zephra", "Line Thickness", "Line Color", "Fill Color", "Background Options", "Model Orientation",
@@ -109,6 +111,26 @@ class Movement(SessionCase):
         desktop.move((900, 700))
         self.waitForState("Tilt Left", HOT, False)
         self.assertNothingTold()
+
+
+class Tooltips(SessionCase):
+    def test_a_tooltip_goes_at_a_press_and_comes_back_with_the_pointer(self):
+        """Over a button that was just pressed it would cover what the button opened."""
+        self.hover()
+        self.click("Zephra Help")
+        self.assertGone()
+        desktop.move([p + 2 for p in self.at("Zephra Help")])
+        time.sleep(1.2)  # longer than a tooltip takes to appear
+        self.assertGone()
+        desktop.move((900, 700))
+        self.hover()
+
+    def hover(self):
+        desktop.move(self.at("Zephra Help"))
+        self.probe.window("Zephra Help", "tooltips_class32")
+
+    def assertGone(self):
+        self.assertEqual([], self.probe.windows(class_name="tooltips_class32"))
 
 
 if __name__ == "__main__":
