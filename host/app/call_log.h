@@ -5,20 +5,9 @@
 #include <memory>
 #include <string>
 
-#include "host/app/model_arguments.h"
+#include "host/com/automation.h"
 
 namespace nerida::host {
-
-enum class CallKind { get, let, call };
-
-/// One use of a member, as it came in and as it ended.
-struct CallRecord {
-  CallKind kind;
-  std::wstring_view member;
-  const Arguments& arguments;
-  const VARIANT* result;  ///< null when the caller wanted none
-  std::string failure;    ///< empty when it went well
-};
 
 /// What is told about every use of the object.
 class CallListener {

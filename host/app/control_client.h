@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "host/app/com.h"
+#include "host/com/com.h"
 
 namespace nerida::host {
 

@@ -24,7 +24,6 @@ class ModelDispatch final : public IDispatch {
 
  private:
   ~ModelDispatch() = default;
-  HRESULT run(const ModelMember& member, CallRecord& record, VARIANT* result, EXCEPINFO* exception, UINT* badArgument);
 
   ULONG references = 1;
   ModelObject* model;

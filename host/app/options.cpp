@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cwchar>
 
-#include "host/app/com.h"
+#include "host/com/com.h"
 
 namespace nerida::host {
 namespace {

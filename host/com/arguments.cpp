@@ -1,4 +1,4 @@
-#include "host/app/model_arguments.h"
+#include "host/com/arguments.h"
 
 namespace nerida::host {
 namespace {

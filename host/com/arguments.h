@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "host/app/com.h"
+#include "host/com/com.h"
 
 namespace nerida::host {
 

@@ -1,4 +1,4 @@
-#include "host/app/com.h"
+#include "host/com/com.h"
 
 namespace nerida::host {
 

@@ -1,0 +1,110 @@
+#include <olectl.h>
+
+#include <vector>
+
+#include "host/com/server.h"
+
+namespace nerida::host {
+namespace {
+
+struct Entry {
+  std::wstring key;  // below the classes
+  std::wstring text;
+  std::wstring name = {};  // empty: the key's own value
+};
+
+std::wstring braced(const GUID& id) {
+  wchar_t text[40];
+  StringFromGUID2(id, text, 40);
+  return text;
+}
+
+std::wstring classKey(const ServerClass& of) { return L"CLSID\\" + braced(of.id); }
+
+// Parents stand before their children.
+std::vector<Entry> namesOf(const ServerClass& of) {
+  const std::wstring name = of.name;
+  const std::wstring versioned = of.versioned;
+  const std::wstring id = braced(of.id);
+  return {{name, of.title},
+          {name + L"\\CLSID", id},
+          {name + L"\\CurVer", versioned},
+          {versioned, of.title},
+          {versioned + L"\\CLSID", id}};
+}
+
+std::vector<Entry> entriesOf(const ServerClass& of) {
+  const std::wstring key = classKey(of);
+  std::vector<Entry> entries = {{key, of.title},
+                                {key + L"\\InprocServer32", modulePath()},
+                                {key + L"\\InprocServer32", L"Apartment", L"ThreadingModel"},
+                                {key + L"\\ProgID", of.versioned},
+                                {key + L"\\VersionIndependentProgID", of.name},
+                                {key + L"\\Programmable", L""}};
+  if (of.isControl) entries.push_back({key + L"\\Control", L""});
+  return entries;
+}
+
+std::wstring pathOf(const Entry& entry) { return L"Software\\Classes\\" + entry.key; }
+
+LONG write(HKEY root, const Entry& entry) {
+  const auto bytes = static_cast<DWORD>((entry.text.size() + 1) * sizeof(wchar_t));
+  return RegSetKeyValueW(root, pathOf(entry).c_str(), entry.name.c_str(), REG_SZ, entry.text.c_str(), bytes);
+}
+
+// Takes a value away, and its key when nothing else is left in it.
+void remove(HKEY root, const Entry& entry) {
+  const std::wstring path = pathOf(entry);
+  RegDeleteKeyValueW(root, path.c_str(), entry.name.c_str());
+  HKEY key = nullptr;
+  if (RegOpenKeyExW(root, path.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS) return;
+  DWORD keys = 0;
+  DWORD values = 0;
+  RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values, nullptr, nullptr, nullptr,
+                   nullptr);
+  RegCloseKey(key);
+  if (keys == 0 && values == 0) RegDeleteKeyW(root, path.c_str());
+}
+
+void remove(HKEY root, const std::vector<Entry>& entries) {
+  for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) remove(root, *entry);
+}
+
+bool isRegistered(HKEY root, const ServerClass& of, REGSAM view) {
+  HKEY key = nullptr;
+  const std::wstring path = L"Software\\Classes\\" + classKey(of);
+  if (RegOpenKeyExW(root, path.c_str(), 0, KEY_READ | view, &key) != ERROR_SUCCESS) return false;
+  RegCloseKey(key);
+  return true;
+}
+
+constexpr REGSAM otherBitness = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
+
+}  // namespace
+
+HRESULT registerClasses(HKEY root) {
+  for (const ServerClass& each : serverClasses()) {
+    std::vector<Entry> entries = namesOf(each);
+    for (const Entry& own : entriesOf(each)) entries.push_back(own);
+    for (const Entry& entry : entries) {
+      if (const LONG status = write(root, entry); status != ERROR_SUCCESS) {
+        unregisterClasses(root);
+        return HRESULT_FROM_WIN32(static_cast<DWORD>(status));
+      }
+    }
+  }
+  return S_OK;
+}
+
+// The names serve both bitnesses: the last one to go takes them away.
+HRESULT unregisterClasses(HKEY root) {
+  bool left = false;
+  for (const ServerClass& each : serverClasses()) {
+    remove(root, entriesOf(each));
+    if (!isRegistered(root, each, otherBitness)) remove(root, namesOf(each));
+    left = left || isRegistered(root, each, 0);
+  }
+  return left ? SELFREG_E_CLASS : S_OK;
+}
+
+}  // namespace nerida::host
