@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "host/com/automation.h"
+#include "host/win32/automation.h"
 
 namespace nerida::host {
 

@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "host/com/com.h"
+#include "host/win32/com.h"
 
 namespace nerida::host {
 

@@ -25,17 +25,6 @@ double secondsSince(LONGLONG start) {
   return static_cast<double>(now() - start) / static_cast<double>(frequency.QuadPart);
 }
 
-void blit(HDC dc, const RECT& area, const Picture& picture) {
-  BITMAPINFO info = {};
-  info.bmiHeader.biSize = sizeof info.bmiHeader;
-  info.bmiHeader.biWidth = picture.width;
-  info.bmiHeader.biHeight = -picture.height;
-  info.bmiHeader.biPlanes = 1;
-  info.bmiHeader.biBitCount = 32;
-  SetDIBitsToDevice(dc, area.left, area.top, static_cast<DWORD>(picture.width), static_cast<DWORD>(picture.height), 0,
-                    0, 0, static_cast<UINT>(picture.height), picture.pixels.data(), &info, DIB_RGB_COLORS);
-}
-
 // Eight of them: the corners and the middles of the sides.
 void paintHandles(HDC dc, const RECT& frame, int size) {
   const GdiObject brush(CreateSolidBrush(activeFrame));

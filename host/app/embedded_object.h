@@ -4,7 +4,7 @@
 #include <string>
 
 #include "host/app/call_log.h"
-#include "host/app/metrics.h"
+#include "host/win32/drawing.h"
 #include "host/app/model_dispatch.h"
 #include "host/app/model_object.h"
 #include "host/render/picture.h"

@@ -61,9 +61,7 @@ void letFile(Model& model, const Arguments& arguments) {
   try {
     model.load(file);
   } catch (const ModelError& error) {
-    std::error_code ignored;
-    const bool there = std::filesystem::exists(file, ignored);
-    throw MemberError{there ? invalidPropertyValue : fileNotFound, error.what()};
+    throw unusableFile(file, error.what());
   }
 }
 

@@ -3,7 +3,7 @@
 #include <span>
 
 #include "host/app/model_object.h"
-#include "host/com/automation.h"
+#include "host/win32/automation.h"
 
 namespace nerida::host {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cwchar>
 
-#include "host/com/com.h"
+#include "host/win32/com.h"
 
 namespace nerida::host {
 namespace {

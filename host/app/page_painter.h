@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "host/app/metrics.h"
+#include "host/win32/drawing.h"
 
 namespace nerida::host {
 

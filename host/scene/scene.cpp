@@ -39,6 +39,13 @@ void Scene::load(const std::filesystem::path& newFile) {
   resetHome();
 }
 
+void Scene::unload() {
+  model.reset();
+  file.clear();
+  animation.reset(0, 0);
+  resetHome();
+}
+
 int Scene::modelScale() const { return static_cast<int>(std::lround(scale * 100)); }
 
 void Scene::setModelScale(int percent) {
@@ -62,6 +69,7 @@ void Scene::resetHome() {
 void Scene::rotateX(int steps) { turn(tiltUp(sane(steps) * anglePerStep)); }
 void Scene::rotateY(int steps) { turn(turnLeft(sane(steps) * anglePerStep)); }
 void Scene::rotateZ(int steps) { turn(turnClockwise(sane(steps) * anglePerStep)); }
+void Scene::turnBy(int up, int left) { turn(tiltUp(up) * turnLeft(left)); }
 void Scene::turn(const Mat3& step) { rotation = straightened(step * rotation); }
 
 void Scene::setOrientation(int x, int y, int z) { rotation = rotationOf({x, y, z}); }

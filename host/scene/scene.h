@@ -39,6 +39,7 @@ class Scene {
   // The model. Loading brings it home and stops the animation; style, colours and light stay.
   /// Throws ModelError and keeps the old model. The name stays; when it is empty it becomes the file's.
   void load(const std::filesystem::path& file);
+  void unload();  ///< the name stays
   [[nodiscard]] bool hasModel() const { return model.has_value(); }
   [[nodiscard]] const std::filesystem::path& modelFile() const { return file; }
   [[nodiscard]] const std::string& modelName() const { return name; }  ///< UTF-8
@@ -56,6 +57,7 @@ class Scene {
   void rotateX(int steps);                   ///< positive = tilt up
   void rotateY(int steps);                   ///< positive = tilt left
   void rotateZ(int steps);                   ///< positive = clockwise
+  void turnBy(int up, int left);             ///< hundredths of a degree
   void setOrientation(int x, int y, int z);  ///< hundredths of a degree, any number of turns
   [[nodiscard]] Orientation orientation() const;
 

@@ -3,7 +3,7 @@
 
 #include "host/app/call_words.h"
 #include "tests/host/glb.h"
-#include "tests/windows/host/caller.h"
+#include "tests/windows/host/object_test.h"
 
 namespace nerida::host {
 namespace {

@@ -1,5 +1,7 @@
 #include "tests/windows/host/caller.h"
 
+#include <gtest/gtest.h>
+
 #include "tests/host/glb.h"
 
 namespace nerida::host {
@@ -53,18 +55,14 @@ Value Value::refVariant(VARIANT& target) {
   return made;
 }
 
-ObjectTest::ObjectTest() : dispatch(new ModelDispatch(object, listener)) {}
-
-ObjectTest::~ObjectTest() { EXPECT_EQ(dispatch->Release(), 0U) << "a call kept a reference"; }
-
-DISPID ObjectTest::find(const wchar_t* name) {
+DISPID Caller::find(const wchar_t* name) {
   DISPID id = DISPID_UNKNOWN;
   auto* text = const_cast<wchar_t*>(name);
-  dispatch->GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &id);
+  called.GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &id);
   return id;
 }
 
-Answer ObjectTest::use(const wchar_t* name, WORD flags, std::initializer_list<const Value*> arguments) {
+Answer Caller::use(const wchar_t* name, WORD flags, std::initializer_list<const Value*> arguments) {
   // Plain copies, so that references keep pointing at the test's variables.
   std::vector<VARIANTARG> reversed;
   for (auto each = std::rbegin(arguments); each != std::rend(arguments); ++each) reversed.push_back(**each);
@@ -74,8 +72,8 @@ Answer ObjectTest::use(const wchar_t* name, WORD flags, std::initializer_list<co
                            assigns ? 1U : 0U};
   Answer answer;
   EXCEPINFO exception = {};
-  answer.status = dispatch->Invoke(find(name), IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, &answer.result,
-                                   &exception, &answer.badArgument);
+  answer.status = called.Invoke(find(name), IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, &answer.result,
+                                &exception, &answer.badArgument);
   answer.errorNumber = exception.wCode;
   answer.description = viewOf(exception.bstrDescription);
   answer.source = viewOf(exception.bstrSource);
@@ -84,14 +82,14 @@ Answer ObjectTest::use(const wchar_t* name, WORD flags, std::initializer_list<co
   return answer;
 }
 
-LONG ObjectTest::numberOf(const wchar_t* name) {
+LONG Caller::numberOf(const wchar_t* name) {
   const Answer answer = get(name);
   EXPECT_EQ(answer.status, S_OK) << utf8(name);
   EXPECT_EQ(answer.result.vt, VT_I4) << utf8(name);
   return answer.result.lVal;
 }
 
-bool ObjectTest::flagOf(const wchar_t* name) {
+bool Caller::flagOf(const wchar_t* name) {
   const Answer answer = get(name);
   EXPECT_EQ(answer.status, S_OK) << utf8(name);
   EXPECT_EQ(answer.result.vt, VT_BOOL) << utf8(name);
@@ -99,23 +97,19 @@ bool ObjectTest::flagOf(const wchar_t* name) {
   return answer.result.boolVal == VARIANT_TRUE;
 }
 
-std::wstring ObjectTest::textOf(const wchar_t* name) {
+std::wstring Caller::textOf(const wchar_t* name) {
   const Answer answer = get(name);
   EXPECT_EQ(answer.status, S_OK) << utf8(name);
   EXPECT_EQ(answer.result.vt, VT_BSTR) << utf8(name);
   return answer.result.vt == VT_BSTR ? std::wstring(viewOf(answer.result.bstrVal)) : L"";
 }
 
-std::filesystem::path ObjectTest::movingModel() { return saved(movingTriangleFile().bytes(), "flag.twe"); }
+std::filesystem::path movingModel() { return saved(movingTriangleFile().bytes(), "flag.twe"); }
 
-std::filesystem::path ObjectTest::brokenModel() {
+std::filesystem::path brokenModel() {
   Bytes bytes = triangleFile().bytes();
   bytes.resize(bytes.size() / 2);
   return saved(bytes, "torn.twe");
-}
-
-Answer ObjectTest::load(const std::filesystem::path& file) {
-  return let(L"TarnwellXFile", Value::text(file.wstring().c_str()));
 }
 
 }  // namespace nerida::host

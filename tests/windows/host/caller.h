@@ -1,13 +1,11 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <initializer_list>
 #include <string>
 #include <vector>
 
-#include "host/app/model_dispatch.h"
+#include "host/win32/automation.h"
 
 namespace nerida::host {
 
@@ -37,25 +35,10 @@ struct Answer {
   UINT badArgument = 99;
 };
 
-/// A document's place for an object: counts what it is told.
-struct RecordingSite : ModelSite {
-  int displays = 0, animations = 0, models = 0, catalogs = 0;
-  void displayChanged() override { ++displays; }
-  void animationChanged() override { ++animations; }
-  void modelLoaded() override { ++models; }
-  void catalogDone() override { ++catalogs; }
-};
-
-struct RecordingListener : CallListener {
-  std::vector<std::string> lines;
-  void called(const CallRecord& record) override { lines.push_back(lineOf(record)); }
-};
-
-/// An object with nothing in it, used the way the toolbar uses it: by name, late-bound.
-class ObjectTest : public testing::Test {
- protected:
-  ObjectTest();
-  ~ObjectTest() override;
+/// An automation object used late-bound, by name.
+class Caller {
+ public:
+  explicit Caller(IDispatch& called) : called(called) {}
 
   DISPID find(const wchar_t* name);
   Answer use(const wchar_t* name, WORD flags, std::initializer_list<const Value*> arguments);
@@ -71,15 +54,12 @@ class ObjectTest : public testing::Test {
   bool flagOf(const wchar_t* name);
   std::wstring textOf(const wchar_t* name);
 
-  /// A model of 25 frames.
-  static std::filesystem::path movingModel();
-  static std::filesystem::path brokenModel();
-  Answer load(const std::filesystem::path& file);
-
-  RecordingSite site;
-  RecordingListener listener;
-  ModelObject object{site};
-  ModelDispatch* dispatch;
+ private:
+  IDispatch& called;
 };
+
+/// A model of 25 frames, in a file.
+std::filesystem::path movingModel();
+std::filesystem::path brokenModel();
 
 }  // namespace nerida::host

@@ -1,6 +1,6 @@
 #include <set>
 
-#include "tests/windows/host/caller.h"
+#include "tests/windows/host/object_test.h"
 
 namespace nerida::host {
 namespace {

@@ -1,4 +1,4 @@
-#include "host/com/automation.h"
+#include "host/win32/automation.h"
 
 namespace nerida::host {
 

@@ -1,4 +1,4 @@
-#include "host/com/com.h"
+#include "host/win32/com.h"
 
 namespace nerida::host {
 

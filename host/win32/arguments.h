@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "host/com/com.h"
+#include "host/win32/com.h"
 
 namespace nerida::host {
 
@@ -18,6 +18,9 @@ struct MemberError {
 inline constexpr int invalidCall = 5;
 inline constexpr int fileNotFound = 53;
 inline constexpr int invalidPropertyValue = 380;
+
+/// Why a file could not be used: it is not there, or it is not what the member wants.
+MemberError unusableFile(const std::filesystem::path& file, const std::string& why);
 
 /// A call that does not fit the member: answered with a bare status, and the position of the argument.
 struct CallRefused {

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include "host/render/picture.h"
+
 namespace nerida::host {
 
 /// Sizes are given as pixels of a screen with 96 dots per inch.
@@ -12,6 +14,9 @@ struct Metrics {
 
 inline int widthOf(const RECT& r) { return static_cast<int>(r.right - r.left); }
 inline int heightOf(const RECT& r) { return static_cast<int>(r.bottom - r.top); }
+/// Puts a picture of the area's size there.
+void blit(HDC dc, const RECT& area, const Picture& picture);
+
 inline RECT inflated(RECT r, int by) {
   InflateRect(&r, by, by);
   return r;

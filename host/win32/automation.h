@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/com/arguments.h"
+#include "host/win32/arguments.h"
 
 namespace nerida::host {
 

@@ -1,4 +1,4 @@
-#include "host/com/arguments.h"
+#include "host/win32/arguments.h"
 
 namespace nerida::host {
 namespace {
@@ -88,6 +88,11 @@ void answer(VARIANT* result, const std::string& value) {
   if (result == nullptr) return;
   result->bstrVal = newBstr(wide(value));
   result->vt = VT_BSTR;
+}
+
+MemberError unusableFile(const std::filesystem::path& file, const std::string& why) {
+  std::error_code ignored;
+  return {std::filesystem::exists(file, ignored) ? invalidPropertyValue : fileNotFound, why};
 }
 
 }  // namespace nerida::host

@@ -1,5 +1,5 @@
 // The entry points that all our in-process servers share.
-#include "host/com/server.h"
+#include "host/win32/server.h"
 
 #include <olectl.h>
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "host/com/server.h"
+#include "host/win32/server.h"
 
 namespace nerida::host {
 namespace {

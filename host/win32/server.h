@@ -3,7 +3,7 @@
 #include <atomic>
 #include <span>
 
-#include "host/com/com.h"
+#include "host/win32/com.h"
 
 namespace nerida::host {
 
