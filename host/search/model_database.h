@@ -4,10 +4,10 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "host/search/database_error.h"
 #include "host/search/model_card.h"
 
 namespace nerida::search {
@@ -15,18 +15,12 @@ namespace nerida::search {
 /// The model database's file, in the product's dictionary folder.
 inline constexpr const char* databaseFileName = "Models.db";
 
-/// The database cannot be read or written; the text says which and why.
-class DatabaseError : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
-
 /// Hears how many models are done.
 using Progress = std::function<void(std::size_t done)>;
 
 /// Makes the database in `folder` (made when missing) hold exactly `cards`, whatever was there before. Interrupted at
 /// any point it is the old database or the new one; searches that go on meanwhile see one or the other. Texts may be
-/// any UTF-8; of two cards with one number the call throws. Throws DatabaseError.
+/// any UTF-8; control characters in them become blanks. Throws DatabaseError, also when two cards have one number.
 void buildDatabase(const std::filesystem::path& folder, const std::vector<ModelCard>& cards,
                    const Progress& progress = {});
 

@@ -1,0 +1,128 @@
+#include "host/search/engine.h"
+
+#include <algorithm>
+#include <tuple>
+
+#include "host/search/database.h"
+#include "host/search/random_numbers.h"
+#include "host/search/relevance.h"
+#include "host/search/schema.h"
+#include "host/search/thesaurus.h"
+#include "host/search/tokenizer.h"
+#include "host/search/vocabulary.h"
+
+namespace nerida::search {
+namespace {
+
+/// A hit with what decides its place in the list.
+struct RankedHit {
+  Rank rank;
+  std::ptrdiff_t words;  ///< in the name
+  std::string orderName;
+  Hit hit;
+};
+
+// The columns are number, name, flags.
+Hit hitOf(Statement& row) {
+  return {static_cast<std::int32_t>(row.number(0)), std::string(row.text(1)), static_cast<std::int32_t>(row.number(2)),
+          Closeness::exact};
+}
+
+// Followed by order_name and the rank.
+RankedHit rankedHitOf(Statement& row) {
+  RankedHit result{Relevance::rankOf(row.number(4)), 0, std::string(row.text(3)), hitOf(row)};
+  result.words = std::ranges::count(result.orderName, ' ');
+  result.hit.closeness = result.rank.closeness;
+  return result;
+}
+
+bool comesBefore(const RankedHit& one, const RankedHit& other) {
+  return std::tie(one.rank, one.words, one.orderName, one.hit.name, one.hit.number) <
+         std::tie(other.rank, other.words, other.orderName, other.hit.name, other.hit.number);
+}
+
+std::vector<Hit> bestFirst(std::vector<RankedHit> ranked) {
+  std::ranges::sort(ranked, comesBefore);
+  std::vector<Hit> hits;
+  hits.reserve(ranked.size());
+  for (RankedHit& one : ranked) hits.push_back(std::move(one.hit));
+  return hits;
+}
+
+Database openOurs(const std::filesystem::path& file) {
+  Database database = Database::open(file);
+  requireSchema(database);
+  return database;
+}
+
+}  // namespace
+
+struct SearchEngine::Parts {
+  explicit Parts(const EngineFiles& files)
+      : database(openOurs(files.database)), tokenizer(database), thesaurus(tokenizer), relevance(database) {
+    thesaurus.read(files.thesaurus);
+    thesaurus.read(files.userThesaurus);
+  }
+
+  Database database;
+  Tokenizer tokenizer;
+  Thesaurus thesaurus;
+  Relevance relevance;
+};
+
+SearchEngine::SearchEngine(const EngineFiles& files) : parts(std::make_unique<Parts>(files)) {}
+
+SearchEngine::~SearchEngine() = default;
+
+std::vector<Hit> SearchEngine::searchKeywords(std::string_view text) {
+  // One view of the database for all steps, whatever others write meanwhile.
+  const Transaction view(parts->database, Transaction::Kind::reading);
+  Vocabulary vocabulary(parts->database, parts->tokenizer);
+  const Question question = understand(text, parts->tokenizer, parts->thesaurus, vocabulary);
+  if (question.empty()) return {};
+  parts->relevance.setQuestion(question);
+  const std::string wanted = expression(question);
+  Statement row(parts->database,
+                "SELECT number, model.name, flags, order_name, relevance(words) FROM words "
+                "JOIN model ON model.number = words.rowid WHERE words MATCH ?");
+  row.bind(1, wanted);
+  std::vector<RankedHit> hits;
+  while (row.step()) hits.push_back(rankedHitOf(row));
+  return bestFirst(std::move(hits));
+}
+
+std::vector<Hit> SearchEngine::searchRandom() {
+  const Transaction view(parts->database, Transaction::Kind::reading);
+  Statement model(parts->database, "SELECT number, name, flags FROM model WHERE number = ?");
+  std::vector<Hit> hits;
+  for (const std::int64_t number : randomNumbers(parts->database, randomSelectionSize)) {
+    model.reset();
+    if (model.bind(1, number).step()) hits.push_back(hitOf(model));
+  }
+  return hits;
+}
+
+std::vector<Hit> SearchEngine::searchCategory(std::string_view subcategory) {
+  Statement row(parts->database,
+                "SELECT number, name, flags FROM model "
+                "WHERE subcategory IN (SELECT id FROM subcategory WHERE name = ? AND name <> '') "
+                "ORDER BY order_name, name, number");
+  row.bind(1, subcategory);
+  std::vector<Hit> hits;
+  while (row.step()) hits.push_back(hitOf(row));
+  return hits;
+}
+
+std::vector<Category> SearchEngine::categories() {
+  Statement row(parts->database,
+                "SELECT category, name FROM subcategory WHERE category <> '' "
+                "ORDER BY category COLLATE NOCASE, category, name COLLATE NOCASE, name");
+  std::vector<Category> result;
+  while (row.step()) {
+    if (result.empty() || result.back().name != row.text(0)) result.push_back({std::string(row.text(0)), {}});
+    if (!row.text(1).empty()) result.back().subcategories.emplace_back(row.text(1));
+  }
+  return result;
+}
+
+}  // namespace nerida::search
