@@ -73,6 +73,7 @@ class Window {
   std::function<void()> deactivated;
   std::function<void()> clicked;         // anywhere on the form outside its controls (labels and pictures forward)
   std::function<void()> mouseMoved;      // over the form outside its controls
+  std::function<void()> mouseLeft;       // the pointer went from the form or one of its controls to another window
   std::function<void()> closeRequested;  // the user's close box; nothing else happens by itself
 };
 

@@ -45,6 +45,7 @@ void frmAnimation::connectEvents() {
   connectPlayPause();
   txtFrame().enterPressed = [this] { txtFrame_EnterPressed(); };
   loadedWindow().mouseMoved = [this] { Form_MouseMove(); };
+  loadedWindow().mouseLeft = [this] { Form_MouseMove(); };
   loadedWindow().closeRequested = [this] { handle(messages, [this] { HideSelf(); }); };
 }
 

@@ -1,7 +1,6 @@
 #include "popups/animation_drawing.h"
 
 #include <algorithm>
-#include <span>
 
 namespace nerida {
 namespace {
@@ -10,8 +9,29 @@ constexpr SystemColor face = SystemColor::buttonFace;
 constexpr SystemColor shadow = SystemColor::buttonShadow;
 constexpr SystemColor highlight = SystemColor::buttonHighlight;
 
-// Glyphs are drawn on a grid of this many steps to the side of their box.
-constexpr std::int32_t gridSteps = 24;
+// A box in whole pixels. Glyphs are laid out in these: strokes that are rounded one by one get ragged.
+class PixelBox {
+ public:
+  PixelBox(Canvas& canvas, const DrawnBox& box) : canvas(canvas), box(box) {}
+
+  int columns() const { return box.width / box.pixelX; }
+  int rows() const { return box.height / box.pixelY; }
+  int middle() const { return (rows() - 1) / 2; }
+  int side(int of25) const { return rows() * of25 / 25; }  // a length that is given for a box of 25 rows
+
+  // Twice, because the size of a pixel in twips is rounded: where it is too large, every few columns one is missed.
+  template <class Color>
+  void column(int x, int top, int bottom, Color color) {
+    for (const std::int32_t nudge : {0, (box.pixelX - 1) / 2}) {
+      const Twips at{x * box.pixelX + nudge};
+      canvas.line(at, {top * box.pixelY}, at, {bottom * box.pixelY}, color);
+    }
+  }
+
+ private:
+  Canvas& canvas;
+  const DrawnBox& box;
+};
 
 void drawEdge(Canvas& canvas, const DrawnBox& box, SystemColor topLeft, SystemColor bottomRight) {
   const Twips right{box.width - box.pixelX};
@@ -22,44 +42,56 @@ void drawEdge(Canvas& canvas, const DrawnBox& box, SystemColor topLeft, SystemCo
   canvas.line({0}, bottom, right, bottom, bottomRight);
 }
 
-// A triangle that points to the right, as upright lines that get shorter.
-void drawPlayGlyph(Canvas& canvas, const DrawnBox& box, std::int32_t sunkX, std::int32_t sunkY, Rgb color) {
-  const std::int32_t left = box.width * 9 / gridSteps;
-  const std::int32_t right = box.width * 17 / gridSteps;
-  const std::int32_t half = box.height * 7 / gridSteps;
-  const std::int32_t middle = box.height / 2;
-  for (std::int32_t x = left; x <= right; x += box.pixelX) {
-    const std::int32_t reach = half * (right - x) / (right - left);
-    canvas.line({x + sunkX}, {middle - reach + sunkY}, {x + sunkX}, {middle + reach + sunkY}, color);
-  }
-}
-
-void drawPauseGlyph(Canvas& canvas, const DrawnBox& box, std::int32_t sunkX, std::int32_t sunkY, Rgb color) {
-  const std::int32_t top = box.height * 6 / gridSteps;
-  const std::int32_t bottom = box.height * 18 / gridSteps;
-  const std::int32_t width = box.width * 3 / gridSteps;
-  for (const std::int32_t start : {box.width * 7 / gridSteps, box.width * 14 / gridSteps}) {
-    for (std::int32_t x = start; x <= start + width; x += box.pixelX) {
-      canvas.line({x + sunkX}, {top + sunkY}, {x + sunkX}, {bottom + sunkY}, color);
-    }
-  }
-}
-
-struct Segment {
-  std::int32_t x1, y1, x2, y2;
+struct Offset {
+  int x;
+  int y;
 };
 
-constexpr Segment firstFrame[] = {{7, 6, 7, 18}, {16, 6, 10, 12}, {10, 12, 16, 18}, {16, 18, 16, 6}};
-constexpr Segment previousFrame[] = {{15, 6, 9, 12}, {9, 12, 15, 18}, {15, 18, 15, 6}};
-constexpr Segment nextFrame[] = {{9, 6, 15, 12}, {15, 12, 9, 18}, {9, 18, 9, 6}};
-constexpr Segment lastFrame[] = {{17, 6, 17, 18}, {8, 6, 14, 12}, {14, 12, 8, 18}, {8, 18, 8, 6}};
-constexpr std::span<const Segment> placeholderGlyphs[] = {firstFrame, previousFrame, nextFrame, lastFrame};
+template <class Color>
+void drawBar(PixelBox& box, int left, int width, int half, Offset by, Color color) {
+  for (int x = left; x < left + width; ++x) {
+    box.column(x + by.x, box.middle() - half + by.y, box.middle() + half + by.y, color);
+  }
+}
 
-void drawSegments(Canvas& canvas, const DrawnBox& box, std::span<const Segment> segments, int pixels,
-                  SystemColor color) {
-  const auto across = [&](std::int32_t x) { return Twips{box.width * x / gridSteps + pixels * box.pixelX}; };
-  const auto down = [&](std::int32_t y) { return Twips{box.height * y / gridSteps + pixels * box.pixelY}; };
-  for (const Segment& s : segments) canvas.line(across(s.x1), down(s.y1), across(s.x2), down(s.y2), color);
+// From its upright side at a column to its tip, half as wide as high: the slopes are straight at every size.
+template <class Color>
+void drawTriangle(PixelBox& box, int base, int direction, int half, Offset by, Color color) {
+  for (int i = 0; i <= half; ++i) {
+    const int reach = half - i;
+    box.column(base + direction * i + by.x, box.middle() - reach + by.y, box.middle() + reach + by.y, color);
+  }
+}
+
+void drawPlayGlyph(PixelBox& box, Offset by, Rgb color) {
+  const int half = box.side(7);
+  drawTriangle(box, (box.columns() - half) / 2, 1, half, by, color);
+}
+
+void drawPauseGlyph(PixelBox& box, Offset by, Rgb color) {
+  const int width = box.side(4);
+  const int gap = width - (box.columns() - width) % 2;  // so that the same room is left on both sides
+  const int left = (box.columns() - 2 * width - gap) / 2;
+  drawBar(box, left, width, box.side(6), by, color);
+  drawBar(box, left + width + gap, width, box.side(6), by, color);
+}
+
+// A step button's drawing: a triangle and the bar from which or to which it leads.
+struct StepGlyph {
+  int direction;
+  bool barFirst;
+};
+
+constexpr StepGlyph stepGlyphs[] = {{-1, true}, {-1, false}, {1, true}, {1, false}};
+
+void drawStepGlyph(PixelBox& box, const StepGlyph& glyph, Offset by, SystemColor color) {
+  const int half = box.side(7);
+  const int bar = box.side(3);
+  const int gap = box.side(2);
+  const int left = (box.columns() - (bar + gap + half + 1)) / 2;
+  const int triangle = glyph.barFirst ? left + bar + gap : left;
+  drawBar(box, glyph.barFirst ? left : left + half + 1 + gap, bar, half, by, color);
+  drawTriangle(box, glyph.direction > 0 ? triangle : triangle + half, glyph.direction, half, by, color);
 }
 
 DrawnBox withRealPixels(DrawnBox box) {
@@ -78,10 +110,10 @@ void paintPlayPause(Canvas& canvas, DrawnBox box, const PlayPauseLook& look) {
     drawEdge(canvas, box, highlight, shadow);
   }
   // What is down has sunk in by a pixel, with all that is on it.
-  const std::int32_t sunkX = look.pressed ? box.pixelX : 0;
-  const std::int32_t sunkY = look.pressed ? box.pixelY : 0;
+  const Offset sunk = look.pressed ? Offset{1, 1} : Offset{0, 0};
+  PixelBox pixels(canvas, box);
   const auto drawGlyph = look.playing ? drawPauseGlyph : drawPlayGlyph;
-  drawGlyph(canvas, box, sunkX, sunkY, look.glyphColor);
+  drawGlyph(pixels, sunk, look.glyphColor);
   if (look.focused) {
     canvas.focusBox({2 * box.pixelX}, {2 * box.pixelY}, {box.width - 3 * box.pixelX}, {box.height - 3 * box.pixelY});
   }
@@ -90,10 +122,10 @@ void paintPlayPause(Canvas& canvas, DrawnBox box, const PlayPauseLook& look) {
 void paintFramePlaceholder(Canvas& canvas, DrawnBox box, int index) {
   box = withRealPixels(box);
   for (std::int32_t y = 0; y < box.height; y += box.pixelY) canvas.line({0}, {y}, {box.width}, {y}, face);
-  // All highlights first: a stroke must not be cut by the twin of its neighbour.
-  const std::span<const Segment> glyph = placeholderGlyphs[index];
-  drawSegments(canvas, box, glyph, 1, highlight);
-  drawSegments(canvas, box, glyph, 0, shadow);
+  // The highlight first: it is what the shadow leaves of it.
+  PixelBox pixels(canvas, box);
+  drawStepGlyph(pixels, stepGlyphs[index], {1, 1}, highlight);
+  drawStepGlyph(pixels, stepGlyphs[index], {0, 0}, shadow);
 }
 
 }  // namespace nerida

@@ -51,12 +51,14 @@ void frmLighting::connectEvents() {
     if (lightIsOn) preview(*lampOf("M"));
   };
   barSwitch().buttonPress = [this](const std::string& key) { barSwitch_ButtonPress(key); };
+  barSwitch().buttonMouseMove = [this](const std::string&) { Form_MouseMove(); };
   barSwitch().lostFocus = [this] { leave(); };
   PictureBox& pnlLight = loadedWindow().pictureBox("pnlLight");
   pnlLight.mouseMove = [this](Twips, Twips) { Form_MouseMove(); };
   pnlLight.lostFocus = [this] { leave(); };
   pnlLight.keyDown = [this](Key key) { return key != Key::choose && enterLamps(); };
   loadedWindow().mouseMoved = [this] { Form_MouseMove(); };
+  loadedWindow().mouseLeft = [this] { Form_MouseMove(); };
   loadedWindow().closeRequested = [this] { handle(messages, [this] { HideSelf(); }); };
 }
 
@@ -89,19 +91,19 @@ void frmLighting::addLamps(int index, std::span<const LampButton> buttons) {
   }
 }
 
+// Whatever cube it shows, pointing at it brings the light from the front, and that is what it is called.
 void frmLighting::buildCentreBar() {
   ButtonBar& bar = barLamp(centreBar);
   makeSettings(bar);
   for (const Lamp& lamp : lamps) {
     bar.openLayout(lamp.centreLayout);
     bar.addButton(lamp.centreKey, lamp.centreBitmap);
-    const std::string name = lamp.accessibleName;
-    bar.setAccessibleName(lamp.bar == centreBar ? name : "Preview: " + name);
+    bar.setAccessibleName(lampOf("M")->accessibleName);
     bar.recomputeLayout();
   }
   bar.openLayout("Disabled");
   bar.addButton("LightNone", "4, lightCubeOff.bmp, 0,0");
-  bar.setAccessibleName("The light is off");
+  bar.setAccessibleName(lampOf("M")->accessibleName);
   bar.recomputeLayout();
 }
 

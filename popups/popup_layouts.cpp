@@ -30,11 +30,15 @@ constexpr std::int32_t lightingWidth = switchLeft + button + margin;
 constexpr std::int32_t lightingHeight = lampsEnd + margin;
 
 constexpr std::array lightingControls{
-    ControlLayout{"barLamp", 0, ControlKind::buttonBar, at(lamp1, lamp1, 2 * button, button), "", "Light from above"},
-    ControlLayout{"barLamp", 1, ControlKind::buttonBar, at(lamp3, lamp1, button, 2 * button), "", "Light from right"},
-    ControlLayout{"barLamp", 4, ControlKind::buttonBar, at(lamp2, lamp2, button, button), "", "Light from front"},
-    ControlLayout{"barLamp", 3, ControlKind::buttonBar, at(lamp1, lamp2, button, 2 * button), "", "Light from left"},
-    ControlLayout{"barLamp", 2, ControlKind::buttonBar, at(lamp2, lamp3, 2 * button, button), "", "Light from below"},
+    ControlLayout{"barLamp", 0, ControlKind::buttonBar, at(lamp1, lamp1, 2 * button, button), "",
+                  "Lamps at the upper left"},
+    ControlLayout{"barLamp", 1, ControlKind::buttonBar, at(lamp3, lamp1, button, 2 * button), "",
+                  "Lamps at the upper right"},
+    ControlLayout{"barLamp", 4, ControlKind::buttonBar, at(lamp2, lamp2, button, button), "", "Lit cube"},
+    ControlLayout{"barLamp", 3, ControlKind::buttonBar, at(lamp1, lamp2, button, 2 * button), "",
+                  "Lamps at the lower left"},
+    ControlLayout{"barLamp", 2, ControlKind::buttonBar, at(lamp2, lamp3, 2 * button, button), "",
+                  "Lamps at the lower right"},
     ControlLayout{"barSwitch", 0, ControlKind::buttonBar, at(switchLeft, lamp2, button, button), "", "Light switch"},
     ControlLayout{"pnlLight", 0, ControlKind::pictureBox, at(0, 0, lightingWidth, lightingHeight), "", "Lighting"},
 };
@@ -48,10 +52,14 @@ constexpr std::int32_t animationWidth = loopLeft + button + margin;
 
 // While the animation plays, a placeholder stands in the place of each step button.
 constexpr std::array animationControls{
-    ControlLayout{"picAniFrame", 0, ControlKind::pictureBox, at(rewindLeft, margin, button, button)},
-    ControlLayout{"picAniFrame", 1, ControlKind::pictureBox, at(rewindLeft + button, margin, button, button)},
-    ControlLayout{"picAniFrame", 2, ControlKind::pictureBox, at(forwardLeft, margin, button, button)},
-    ControlLayout{"picAniFrame", 3, ControlKind::pictureBox, at(forwardLeft + button, margin, button, button)},
+    ControlLayout{"picAniFrame", 0, ControlKind::pictureBox, at(rewindLeft, margin, button, button), "",
+                  "Unavailable while playing"},
+    ControlLayout{"picAniFrame", 1, ControlKind::pictureBox, at(rewindLeft + button, margin, button, button), "",
+                  "Unavailable while playing"},
+    ControlLayout{"picAniFrame", 2, ControlKind::pictureBox, at(forwardLeft, margin, button, button), "",
+                  "Unavailable while playing"},
+    ControlLayout{"picAniFrame", 3, ControlKind::pictureBox, at(forwardLeft + button, margin, button, button), "",
+                  "Unavailable while playing"},
     ControlLayout{"barRewind", 0, ControlKind::buttonBar, at(rewindLeft, margin, 2 * button, button), "", "Rewind"},
     ControlLayout{"picPlayPause", 0, ControlKind::pictureBox, at(playLeft, margin, button, button)},
     ControlLayout{"barForward", 0, ControlKind::buttonBar, at(forwardLeft, margin, 2 * button, button), "", "Forward"},

@@ -198,6 +198,12 @@ void SystemButtonBar::announce(DWORD event, int index) const {
   if (index != none) NotifyWinEvent(event, window(), OBJID_CLIENT, index + 1);
 }
 
+// A hand points before it presses, and what the form shows below the pointer is what is pressed.
+void SystemButtonBar::doPart(int part) {
+  form().raise(buttonMouseMove, std::string(button(part).key));
+  if (canPress(part)) press(part);
+}
+
 void SystemButtonBar::press(int index) {
   const std::string key = button(index).key;  // the handler may show another layout
   form().raise(buttonPress, key);

@@ -77,7 +77,7 @@ class SystemButtonBar final : public ControlOf<ButtonBar>, private ControlParts 
   int focusedPart() const override { return focused; }
   bool canPressPart(int part) const override { return canPress(part); }
   bool focusPart(int part) override;
-  void doPart(int part) override { press(part); }
+  void doPart(int part) override;
 
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   bool takesFocus() const override;

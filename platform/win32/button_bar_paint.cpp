@@ -112,7 +112,8 @@ void SystemButtonBar::paintButton(PixelCanvas& canvas, int index) {
   paintFace(canvas, box, look);
   if (const Picture* picture = pictureOf(item)) {
     const POINT at = pictureOrigin(item, index);
-    look.usable ? canvas.draw(*picture, at.x, at.y) : canvas.drawGreyed(*picture, at.x, at.y);
+    const bool isGreyAlready = enabled && item.spec.kind == 4;
+    look.usable || isGreyAlready ? canvas.draw(*picture, at.x, at.y) : canvas.drawGreyed(*picture, at.x, at.y);
   }
   if (index == focused && form().showsFocus() && GetFocus() == window()) {
     canvas.dottedFrame({box.left + 2, box.top + 2, box.right - 2, box.bottom - 2}, systemColor(COLOR_BTNTEXT));

@@ -102,6 +102,9 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_MOUSEMOVE:
       if (pointerMoved(hwnd, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) raise(mouseMoved);
       break;
+    case WM_MOUSELEAVE:
+      pointerLeft();
+      break;
     case WM_LBUTTONDOWN:
       clickStarted = true;
       return 0;
@@ -157,10 +160,23 @@ void FormWindow::onActivate(bool active) {
 }
 
 bool FormWindow::pointerMoved(HWND over, POINT point) {
+  if (mouseLeft) {
+    TRACKMOUSEEVENT request = {sizeof request, TME_LEAVE, over, 0};
+    TrackMouseEvent(&request);
+  }
   ClientToScreen(over, &point);
   const bool isSame = lastPointer && lastPointer->x == point.x && lastPointer->y == point.y;
   lastPointer = point;
   return !isSame;
+}
+
+void FormWindow::pointerLeft() {
+  POINT pointer = {};
+  GetCursorPos(&pointer);
+  const HWND under = WindowFromPoint(pointer);
+  if (under == hwnd || IsChild(hwnd, under)) return;
+  lastPointer.reset();
+  raise(mouseLeft);
 }
 
 void FormWindow::rememberFocus() {

@@ -63,6 +63,8 @@ class FormWindow final : public Window {
   // Whether the pointer has moved since the last time: the system also tells of moves when a window came or went below
   // a pointer that rests. The point is in the window's coordinates.
   bool pointerMoved(HWND over, POINT point);
+  // Told when the pointer leaves a window of the form; that counts only if it left the form altogether.
+  void pointerLeft();
   bool showsFocus() const { return focusShown; }
   void setShowsFocus(bool shows);
   // Tab, Shift+Tab and Escape; true when the key has been used up.

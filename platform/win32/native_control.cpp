@@ -87,6 +87,7 @@ LRESULT CALLBACK controlProcedure(HWND window, UINT message, WPARAM wParam, LPAR
   if (control == nullptr) return DefWindowProcW(window, message, wParam, lParam);
   return control->parent.dispatch([&] {
     const LRESULT result = control->onMessage(message, wParam, lParam);
+    if (message == WM_MOUSELEAVE) control->parent.pointerLeft();
     if (message == WM_NCDESTROY) {
       SetWindowLongPtrW(window, GWLP_USERDATA, 0);
       control->detach();

@@ -1,4 +1,5 @@
 // What the playback bar draws itself: the play and pause button, and the placeholders of the step buttons.
+#include "popups/animation_drawing.h"
 #include "tests/unit/desk.h"
 
 namespace nerida {
@@ -16,6 +17,7 @@ class Sketch : public Canvas {
   }
   void line(Twips x1, Twips y1, Twips x2, Twips y2, Rgb color) override {
     ++glyphLines[color];
+    columns[x1.value] = {y1.value, y2.value};
     note(x1, y1, x2, y2);
   }
   void box(Twips, Twips, Twips, Twips, SystemColor) override { ++others; }
@@ -27,6 +29,7 @@ class Sketch : public Canvas {
 
   std::map<int, int> lines;
   std::map<Rgb, int> glyphLines;
+  std::map<std::int32_t, std::pair<std::int32_t, std::int32_t>> columns;  // of the glyph: from where to where
   std::string strokes;
   std::int32_t extent = 0;
   int others = 0;
@@ -66,6 +69,32 @@ TEST_F(AnimationDrawing, TheGlyphIsNavyAndTellsWhatAClickDoes) {
   EXPECT_EQ(paused.others, 0);
   library.animation.SetPlay();
   EXPECT_NE(drawn(button()).strokes, paused.strokes);
+}
+
+TEST(PlayGlyph, IsEvenAtEveryFinenessOfTheScreen) {
+  for (const std::int32_t pixel : {15, 12, 10, 8}) {
+    Sketch play;
+    paintPlayPause(play, {375, 375, pixel, pixel}, {false, false, false, false, 0});
+    const std::int32_t middle = (375 / pixel - 1) / 2 * pixel;
+    std::int32_t reach = play.columns.begin()->second.second - middle;
+    for (const auto& [x, ends] : play.columns) {
+      EXPECT_EQ(middle - ends.first, ends.second - middle) << "column " << x << " of pixels of " << pixel;
+      EXPECT_LE(ends.second - middle, reach);
+      reach = ends.second - middle;
+    }
+    EXPECT_EQ(reach, 0) << "no tip";
+  }
+}
+
+TEST(PauseGlyph, StandsInTheMiddleAtEveryFinenessOfTheScreen) {
+  for (const std::int32_t pixel : {15, 12, 10, 8}) {
+    Sketch pause;
+    paintPlayPause(pause, {375, 375, pixel, pixel}, {true, false, false, false, 0});
+    const std::int32_t left = pause.columns.begin()->first / pixel;
+    const std::int32_t right = 375 / pixel - 1 - pause.columns.rbegin()->first / pixel;
+    EXPECT_EQ(left, right) << "pixels of " << pixel;
+    EXPECT_EQ(pause.columns.begin()->second, pause.columns.rbegin()->second);
+  }
 }
 
 TEST_F(AnimationDrawing, TheEdgeTellsHotFromPressedFromNeither) {
