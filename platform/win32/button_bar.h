@@ -106,7 +106,7 @@ class SystemButtonBar final : public ControlOf<ButtonBar>, private ControlParts 
   void onFocus(bool gained);
 
   // Drawing.
-  void paint(HDC target);
+  void draw(HDC target) override;
   void paintButton(PixelCanvas& canvas, int index);
   void paintCaption(HDC dc, int index);
   POINT pictureOrigin(const BarButton& item, int index) const;

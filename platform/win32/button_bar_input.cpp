@@ -18,11 +18,11 @@ LRESULT SystemButtonBar::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_PAINT: {
       const PaintScope painting(window());
-      paint(painting.dc());
+      draw(painting.dc());
       return 0;
     }
     case WM_PRINTCLIENT:
-      paint(reinterpret_cast<HDC>(wParam));
+      draw(reinterpret_cast<HDC>(wParam));
       return 0;
     case WM_ERASEBKGND:
       return TRUE;

@@ -91,7 +91,7 @@ const Picture* SystemButtonBar::pictureOf(BarButton& item) {
   return item.picture ? &*item.picture : nullptr;
 }
 
-void SystemButtonBar::paint(HDC target) {
+void SystemButtonBar::draw(HDC target) {
   const SIZE extent = size();
   if (extent.cx <= 0 || extent.cy <= 0) return;
   BackBuffer& buffer = form().backBuffer();

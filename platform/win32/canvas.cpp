@@ -1,62 +1,78 @@
 #include "platform/win32/canvas.h"
 
 #include <algorithm>
-
-#include "platform/win32/handles.h"
+#include <climits>
+#include <cmath>
+#include <cstdlib>
 
 namespace nerida {
 namespace {
 
-int indexOf(SystemColor color) { return static_cast<int>(color); }
+// The buffer has the bytes of a colour the other way round; what lies beyond the three is dropped.
+PixelColor inkOf(std::uint32_t color) { return (color & 0xFF) << 16 | (color & 0xFF00) | (color >> 16 & 0xFF); }
 
-// What lies beyond the three bytes of a colour would mean a palette's entry to the system.
-COLORREF inkOf(Rgb color) { return static_cast<COLORREF>(color) & 0xFFFFFF; }
+PixelColor inkOf(Rgb color) { return inkOf(static_cast<std::uint32_t>(color)); }
+
+PixelColor inkOf(SystemColor color) { return inkOf(static_cast<std::uint32_t>(GetSysColor(static_cast<int>(color)))); }
 
 }  // namespace
 
+void SystemCanvas::clear() { fill({0, 0, INT_MAX, INT_MAX}, inkOf(SystemColor::buttonFace)); }
+
 // Both corners are inside, in the order in which a rectangle has them.
-RECT SystemCanvas::pixels(Twips x1, Twips y1, Twips x2, Twips y2) const {
-  const auto [left, right] = std::minmax({scale.pixelsX(x1), scale.pixelsX(x2)});
-  const auto [top, bottom] = std::minmax({scale.pixelsY(y1), scale.pixelsY(y2)});
-  return {left, top, right + 1, bottom + 1};
+Box SystemCanvas::pixels(Twips x1, Twips y1, Twips x2, Twips y2) const {
+  const POINT a = pixel(x1, y1);
+  const POINT b = pixel(x2, y2);
+  return {std::min(a.x, b.x), std::min(a.y, b.y), std::max(a.x, b.x) + 1, std::max(a.y, b.y) + 1};
 }
 
 void SystemCanvas::line(Twips x1, Twips y1, Twips x2, Twips y2, SystemColor color) {
-  line(x1, y1, x2, y2, static_cast<Rgb>(GetSysColor(indexOf(color))));
+  line(pixel(x1, y1), pixel(x2, y2), inkOf(color));
 }
 
 void SystemCanvas::line(Twips x1, Twips y1, Twips x2, Twips y2, Rgb color) {
-  const COLORREF ink = inkOf(color);
-  const UniquePen pen(CreatePen(PS_SOLID, 1, ink));
-  const Selected selected(dc, pen.get());
-  const POINT end = {scale.pixelsX(x2), scale.pixelsY(y2)};
-  MoveToEx(dc, scale.pixelsX(x1), scale.pixelsY(y1), nullptr);
-  LineTo(dc, end.x, end.y);
-  SetPixelV(dc, end.x, end.y, ink);  // the system stops short of it
+  line(pixel(x1, y1), pixel(x2, y2), inkOf(color));
+}
+
+void SystemCanvas::line(POINT from, POINT to, PixelColor color) {
+  const long right = to.x - from.x;
+  const long down = to.y - from.y;
+  const long steps = std::max(std::abs(right), std::abs(down));
+  const auto part = [steps](long length, long step) {
+    return steps == 0 ? 0 : static_cast<int>(std::lround(static_cast<double>(length) * step / steps));
+  };
+  for (long step = 0; step <= steps; ++step) {
+    const int x = from.x + part(right, step);
+    const int y = from.y + part(down, step);
+    fill({x, y, x + 1, y + 1}, color);
+  }
 }
 
 void SystemCanvas::box(Twips x1, Twips y1, Twips x2, Twips y2, SystemColor color) {
-  const RECT outline = pixels(x1, y1, x2, y2);
-  FrameRect(dc, &outline, GetSysColorBrush(indexOf(color)));
+  const Box outline = pixels(x1, y1, x2, y2);
+  const PixelColor ink = inkOf(color);
+  fill({outline.left, outline.top, outline.right, outline.top + 1}, ink);
+  fill({outline.left, outline.bottom - 1, outline.right, outline.bottom}, ink);
+  fill({outline.left, outline.top, outline.left + 1, outline.bottom}, ink);
+  fill({outline.right - 1, outline.top, outline.right, outline.bottom}, ink);
 }
 
 void SystemCanvas::filledBox(Twips x1, Twips y1, Twips x2, Twips y2, SystemColor color) {
-  const RECT area = pixels(x1, y1, x2, y2);
-  FillRect(dc, &area, GetSysColorBrush(indexOf(color)));
+  fill(pixels(x1, y1, x2, y2), inkOf(color));
 }
 
 void SystemCanvas::filledBox(Twips x1, Twips y1, Twips x2, Twips y2, Rgb color) {
-  const RECT area = pixels(x1, y1, x2, y2);
-  const UniqueBrush brush(CreateSolidBrush(inkOf(color)));
-  FillRect(dc, &area, brush.get());
+  fill(pixels(x1, y1, x2, y2), inkOf(color));
 }
 
-// It inverts what is below it, in colours that the context is told here.
+// It inverts what is below it, in colours that the context is told here, and must have done so before more is drawn.
 void SystemCanvas::focusBox(Twips x1, Twips y1, Twips x2, Twips y2) {
-  const RECT outline = pixels(x1, y1, x2, y2);
+  const Box box = pixels(x1, y1, x2, y2);
+  const RECT outline = {box.left, box.top, box.right, box.bottom};
   SetTextColor(dc, RGB(0, 0, 0));
   SetBkColor(dc, RGB(255, 255, 255));
   DrawFocusRect(dc, &outline);
+  GdiFlush();
 }
 
 }  // namespace nerida

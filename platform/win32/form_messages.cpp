@@ -4,6 +4,11 @@
 #include "platform/win32/form_window.h"
 
 namespace nerida {
+namespace {
+
+constexpr LPARAM nothingToRepaint = -1;  // of a window's frame, as the system wants to be told
+
+}  // namespace
 
 LRESULT CALLBACK formProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_NCCREATE) {
@@ -118,12 +123,20 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (wParam == FALSE) endModal();
       break;
     case WM_NCPAINT:
-    case WM_NCACTIVATE: {
       if (frame != FormFrame::popup) break;
-      const LRESULT result = DefWindowProcW(hwnd, message, wParam, lParam);
+      DefWindowProcW(hwnd, message, wParam, lParam);
       paintOutline();
-      return result;
-    }
+      return 0;
+    case WM_NCACTIVATE:
+      if (frame != FormFrame::popup) break;
+      return DefWindowProcW(hwnd, message, wParam, nothingToRepaint);
+    case WM_ERASEBKGND:
+      if (paintsControls) return TRUE;
+      break;
+    case WM_PAINT:
+      if (!paintsControls) break;
+      paintWithControls();
+      return 0;
     case WM_SYSCOLORCHANGE:
     case WM_SETTINGCHANGE:
       RedrawWindow(hwnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
@@ -138,21 +151,12 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   return DefWindowProcW(hwnd, message, wParam, lParam);
 }
 
-// The system's thin frame is lit from the top left and nearly white there on pale desktops: over a white page a popup
-// would have only two sides.
-void FormWindow::paintOutline() {
-  const HDC dc = GetWindowDC(hwnd);
-  if (dc == nullptr) return;
-  const Size size = sizeInPixels();
-  const RECT outline = {0, 0, size.width, size.height};
-  FrameRect(dc, &outline, GetSysColorBrush(COLOR_BTNSHADOW));
-  ReleaseDC(hwnd, dc);
-}
-
 void FormWindow::onActivate(bool active) {
   if (active) {
-    SetFocus(hwnd);
+    // A popup says itself where the keyboard goes.
+    if (frame != FormFrame::popup) SetFocus(hwnd);
     raise(activated);
+    if (hwnd != nullptr && GetAncestor(GetFocus(), GA_ROOT) != hwnd) SetFocus(hwnd);
   } else {
     rememberFocus();
     raise(deactivated);

@@ -35,6 +35,13 @@ FrameStyle styleOf(FormFrame frame) {
   return {WS_POPUP, WS_EX_TOOLWINDOW};
 }
 
+// The system's fields paint themselves only.
+bool canPaintControls(const FormLayout& layout) {
+  return layout.frame == FormFrame::popup && std::ranges::none_of(layout.controls, [](const ControlLayout& row) {
+           return row.kind == ControlKind::textBox || row.kind == ControlKind::comboBox;
+         });
+}
+
 UniqueFont createMessageFont() {
   NONCLIENTMETRICSW metrics = {};
   metrics.cbSize = sizeof metrics;
@@ -61,7 +68,11 @@ std::unique_ptr<NativeControl> makeControl(FormWindow& form, const ControlLayout
 }  // namespace
 
 FormWindow::FormWindow(const FormLayout& layout)
-    : layout(layout), frame(layout.frame), screenScale(Scale::ofScreen()), messageFont(createMessageFont()) {}
+    : layout(layout),
+      frame(layout.frame),
+      paintsControls(canPaintControls(layout)),
+      screenScale(Scale::ofScreen()),
+      messageFont(createMessageFont()) {}
 
 HWND FormWindow::realized() const {
   if (!isRealized) const_cast<FormWindow*>(this)->realize();  // no form is made constant
@@ -73,9 +84,9 @@ void FormWindow::realize() {
   RECT outer = {0, 0, screenScale.pixelsX(layout.width), 0};
   AdjustWindowRectEx(&outer, style.style, FALSE, style.extended);
   isRealized = true;
-  CreateWindowExW(style.extended, formClass, wide(layout.caption).c_str(), style.style | WS_CLIPCHILDREN, 0, 0,
-                  outer.right - outer.left, screenScale.pixelsY(layout.height), nullptr, nullptr, moduleInstance(),
-                  this);
+  CreateWindowExW(style.extended, formClass, wide(layout.caption).c_str(),
+                  style.style | (paintsControls ? 0U : WS_CLIPCHILDREN), 0, 0, outer.right - outer.left,
+                  screenScale.pixelsY(layout.height), nullptr, nullptr, moduleInstance(), this);
   try {
     if (hwnd == nullptr) throw Error(error::outOfMemory);
     tips.emplace(hwnd);
@@ -177,8 +188,10 @@ Point FormWindow::clientOrigin() const {
   return {origin.x, origin.y};
 }
 
+// What paints its controls in one go need not have each of them erased before.
 void FormWindow::showTopmostAt(Point topLeft) {
-  SetWindowPos(realized(), HWND_TOPMOST, topLeft.x, topLeft.y, 0, 0, SWP_NOSIZE | SWP_SHOWWINDOW);
+  const UINT how = SWP_NOSIZE | SWP_SHOWWINDOW | (paintsControls ? SWP_DEFERERASE : 0U);
+  SetWindowPos(realized(), HWND_TOPMOST, topLeft.x, topLeft.y, 0, 0, how);
 }
 
 void FormWindow::showTopmost() {

@@ -114,6 +114,8 @@ class FormWindow final : public Window {
   void installHook();
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT runHook(UINT message, WPARAM wParam, LPARAM lParam);
+  void paintWithControls();
+  void drawControls(HDC target);
   void paintOutline();
   void onActivate(bool active);
   void rememberFocus();
@@ -130,6 +132,7 @@ class FormWindow final : public Window {
   const FormLayout layout;
   bool isRealized = false;
   const FormFrame frame;
+  const bool paintsControls;  // the form paints them with itself
   const WindowClasses classes;
   const Scale screenScale;
   UniqueFont messageFont;

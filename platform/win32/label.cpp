@@ -3,6 +3,7 @@
 #include <windowsx.h>
 
 #include "platform/win32/form_window.h"
+#include "platform/win32/handles.h"
 #include "platform/win32/text.h"
 
 namespace nerida {
@@ -38,6 +39,19 @@ LRESULT SystemLabel::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
   }
   return ControlOf::onMessage(message, wParam, lParam);
+}
+
+// As the system's label does; not all systems let it draw into another context.
+void SystemLabel::draw(HDC target) {
+  const SIZE extent = size();
+  RECT area = {0, 0, extent.cx, extent.cy};
+  FillRect(target, &area, GetSysColorBrush(COLOR_BTNFACE));
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window())), L'\0');
+  GetWindowTextW(window(), text.data(), static_cast<int>(text.size()) + 1);
+  const Selected font(target, form().font());
+  SetBkMode(target, TRANSPARENT);
+  SetTextColor(target, GetSysColor(IsWindowEnabled(window()) ? COLOR_BTNTEXT : COLOR_GRAYTEXT));
+  DrawTextW(target, text.c_str(), -1, &area, DT_LEFT | DT_NOPREFIX | DT_EXPANDTABS | DT_WORDBREAK);
 }
 
 void SystemLabel::onHidden() {

@@ -12,6 +12,7 @@ class SystemLabel final : public ControlOf<Label> {
  private:
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   bool hasMouse() const { return mouseMove || mouseDown || mouseUp; }
+  void draw(HDC target) override;
   void onHidden() override;
 };
 

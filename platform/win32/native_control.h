@@ -36,6 +36,9 @@ class NativeControl {
   virtual bool takesFocus() const { return false; }
   bool isReachable(POINT point) const;  // in the control's own coordinates
 
+  // Draws the control, with its upper left corner at the context's origin, for a form that paints its controls.
+  virtual void draw(HDC) {}
+
   virtual void onHidden() {}  // with its form or alone
 
   void detach();  // the window is gone

@@ -12,6 +12,7 @@ class PaintScope {
   PaintScope(const PaintScope&) = delete;
   PaintScope& operator=(const PaintScope&) = delete;
   HDC dc() const { return structure.hdc; }
+  const RECT& area() const { return structure.rcPaint; }
 
  private:
   HWND window;

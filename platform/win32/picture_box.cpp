@@ -19,7 +19,9 @@ SystemPictureBox::~SystemPictureBox() {
   if (accessible != nullptr) accessible->disconnect();
 }
 
-void SystemPictureBox::repaint() { InvalidateRect(window(), nullptr, FALSE); }
+void SystemPictureBox::repaint() {
+  if (IsWindowVisible(window())) InvalidateRect(window(), nullptr, FALSE);
+}
 
 void SystemPictureBox::setFocus() { SetFocus(window()); }
 
@@ -34,15 +36,10 @@ void SystemPictureBox::draw(HDC target) {
   const SIZE extent = size();
   if (extent.cx <= 0 || extent.cy <= 0) return;
   BackBuffer& buffer = form().backBuffer();
-  buffer.canvas(extent.cx, extent.cy);  // room for it
-  const RECT whole = {0, 0, extent.cx, extent.cy};
-  FillRect(buffer.context(), &whole, GetSysColorBrush(COLOR_BTNFACE));
   const int lost = form().scale().pixelsY(layout().bounds.height) - static_cast<int>(extent.cy);
-  POINT origin = {};
-  OffsetViewportOrgEx(buffer.context(), 0, -lost / 2, &origin);
-  SystemCanvas canvas(buffer.context(), form().scale());
+  SystemCanvas canvas(buffer, extent, form().scale(), lost / 2);
+  canvas.clear();
   form().raise(paint, static_cast<Canvas&>(canvas));
-  SetViewportOrgEx(buffer.context(), origin.x, origin.y, nullptr);
   buffer.copyTo(target, extent.cx, extent.cy);
 }
 

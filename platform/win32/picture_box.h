@@ -20,7 +20,7 @@ class SystemPictureBox final : public ControlOf<PictureBox>, private ControlPart
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   bool takesFocus() const override { return isShown() && (keyDown || parts); }
   void onHidden() override;
-  void draw(HDC target);
+  void draw(HDC target) override;
 
   // Mouse and keyboard.
   bool onMouse(UINT message, LPARAM lParam);
