@@ -34,29 +34,30 @@ BOOL CALLBACK lookInto(HWND window, LPARAM parameter) {
   bar->get_accChildCount(&count);
   for (LONG child = 1; child <= count; ++child) {
     if (!hasName(*bar, child, search.name)) continue;
-    search.found = {window, bar, child};
+    search.found = {window, bar, child, 0};
     return FALSE;
   }
   bar->Release();
   return TRUE;
 }
 
+LPARAM placeOf(const BarButton& button) {
+  LONG left = 0, top = 0, width = 0, height = 0;
+  button.accessible->accLocation(&left, &top, &width, &height, number(button.child));
+  POINT centre = {left + width / 2, top + height / 2};
+  ScreenToClient(button.bar, &centre);
+  return MAKELPARAM(centre.x, centre.y);
+}
+
 }  // namespace
 
 void BarButton::press() const { accessible->accDoDefaultAction(number(child)); }
 
-POINT BarButton::centre() const {
-  LONG left = 0, top = 0, width = 0, height = 0;
-  accessible->accLocation(&left, &top, &width, &height, number(child));
-  POINT centre = {left + width / 2, top + height / 2};
-  ScreenToClient(bar, &centre);
-  return centre;
-}
-
-BarButton findButton(HWND toolbar, const std::wstring& name) {
+BarButton findButton(HWND form, const std::wstring& name) {
   Search search{name, {}};
-  EnumChildWindows(toolbar, lookInto, reinterpret_cast<LPARAM>(&search));
+  EnumChildWindows(form, lookInto, reinterpret_cast<LPARAM>(&search));
   require(search.found.accessible != nullptr, "the button is found by its name");
+  search.found.place = placeOf(search.found);
   return search.found;
 }
 

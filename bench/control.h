@@ -3,6 +3,7 @@
 #include <ActiveNeridaToolbar_h.h>
 #include <windows.h>
 
+#include <filesystem>
 #include <functional>
 
 #include "host/app/model_dispatch.h"
@@ -18,6 +19,9 @@ class Model : public host::ModelSite, public host::CallListener {
   Model& operator=(const Model&) = delete;
 
   IDispatch* automation() const { return dispatch; }
+  void open(const std::filesystem::path& file) { object.open(file); }
+  // False when there is no such style.
+  bool setLookStyle(const char* name) { return object.scene.setLookStyle(name); }
   std::function<void()> moved;
 
  private:

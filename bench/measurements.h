@@ -1,5 +1,7 @@
 #pragma once
 
+#include <filesystem>
+
 namespace nerida::bench {
 
 /// Each prints lines "name<blank>figure". Those whose names say "first" or "shown" want a process of their own.
@@ -10,5 +12,9 @@ void presses();
 void toolbarShown();
 void bareToolbarShown();
 void showingAndHiding();
+void paletteOpenings();
+void colorChoices();
+/// All popups show only for a model with an animation.
+void popupCycles(const std::filesystem::path& animatedModel);
 
 }  // namespace nerida::bench

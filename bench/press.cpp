@@ -45,12 +45,10 @@ double callModel(IDispatch& model) {
 }
 
 double release(const BarButton& button) {
-  const POINT at = button.centre();
-  const LPARAM place = MAKELPARAM(at.x, at.y);
-  SendMessageW(button.bar, WM_MOUSEMOVE, 0, place);
-  SendMessageW(button.bar, WM_LBUTTONDOWN, MK_LBUTTON, place);
+  button.hover();
+  button.hold();
   const double start = now();
-  SendMessageW(button.bar, WM_LBUTTONUP, 0, place);
+  button.release();
   return start;
 }
 

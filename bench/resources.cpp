@@ -1,4 +1,6 @@
 // What a toolbar on the screen holds of the system, and whether it gives it all back.
+#include "bench/resources.h"
+
 #include <windows.h>
 // After windows.h.
 #include <psapi.h>
@@ -16,13 +18,6 @@
 
 namespace nerida::bench {
 namespace {
-
-struct Resources {
-  long workingSet = 0;  // KiB
-  long handles = 0;
-  long gdiObjects = 0;
-  long windows = 0;
-};
 
 BOOL CALLBACK countWindow(HWND, LPARAM count) {
   ++*reinterpret_cast<long*>(count);
@@ -71,6 +66,8 @@ long countGdiObjects() {
   return objects;
 }
 
+}  // namespace
+
 Resources held() {
   Resources result;
   PROCESS_MEMORY_COUNTERS memory = {};
@@ -87,7 +84,10 @@ void print(const char* kind, const Resources& figures) {
               figures.handles, kind, figures.gdiObjects, kind, figures.windows);
 }
 
-}  // namespace
+Resources operator-(const Resources& after, const Resources& before) {
+  return {after.workingSet - before.workingSet, after.handles - before.handles, after.gdiObjects - before.gdiObjects,
+          after.windows - before.windows};
+}
 
 void toolbarShown() {
   Model model;
@@ -120,9 +120,7 @@ void showingAndHiding() {
   cycle(warmUp);
   const Resources before = held();
   cycle(cycles);
-  const Resources after = held();
-  print("growth", {after.workingSet - before.workingSet, after.handles - before.handles,
-                   after.gdiObjects - before.gdiObjects, after.windows - before.windows});
+  print("growth", held() - before);
 }
 
 }  // namespace nerida::bench

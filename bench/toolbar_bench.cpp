@@ -1,9 +1,10 @@
-// toolbar_bench MEASUREMENT: one of those in bench/measurements.h, against the registered control.
+// toolbar_bench MEASUREMENT [MODEL]: one of those in bench/measurements.h, against the registered control.
 #include "bench/measurements.h"
 
 #include <ole2.h>
 
 #include <cstdio>
+#include <span>
 #include <string_view>
 
 namespace {
@@ -15,19 +16,32 @@ constexpr struct {
     {"first-toolbar", nerida::bench::firstToolbar}, {"first-bare", nerida::bench::firstBareToolbar},
     {"creations", nerida::bench::creations},        {"presses", nerida::bench::presses},
     {"toolbar-shown", nerida::bench::toolbarShown}, {"bare-shown", nerida::bench::bareToolbarShown},
-    {"show-hide", nerida::bench::showingAndHiding},
+    {"show-hide", nerida::bench::showingAndHiding}, {"palettes", nerida::bench::paletteOpenings},
+    {"choices", nerida::bench::colorChoices},
 };
+
+constexpr std::string_view popupCycles = "popup-cycles";  // the one that wants a model file
+
+// False when there is no such measurement.
+bool measure(std::span<char* const> words) {
+  if (words.size() == 2 && words[0] == popupCycles) {
+    nerida::bench::popupCycles(words[1]);
+    return true;
+  }
+  for (const auto& measurement : measurements) {
+    if (words.size() != 1 || measurement.name != words[0]) continue;
+    measurement.run();
+    return true;
+  }
+  return false;
+}
 
 }  // namespace
 
 int main(int count, char** arguments) {
-  for (const auto& measurement : measurements) {
-    if (count != 2 || measurement.name != arguments[1]) continue;
-    if (FAILED(OleInitialize(nullptr))) return 1;
-    measurement.run();
-    OleUninitialize();
-    return 0;
-  }
-  std::fprintf(stderr, "usage: toolbar_bench MEASUREMENT\n");
-  return 2;
+  if (FAILED(OleInitialize(nullptr))) return 1;
+  const bool known = measure({arguments + 1, arguments + count});
+  OleUninitialize();
+  if (!known) std::fprintf(stderr, "usage: toolbar_bench MEASUREMENT [MODEL]\n");
+  return known ? 0 : 2;
 }
