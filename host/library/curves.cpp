@@ -1,6 +1,7 @@
 #include "host/library/curves.h"
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 #include <stdexcept>
 
@@ -45,6 +46,17 @@ std::vector<Vec> smoothCurve(const std::vector<Vec>& points, int steps, bool clo
   }
   if (!closed) curve.push_back(points.back());
   return curve;
+}
+
+std::vector<double> radiiAlong(const std::vector<double>& given, std::size_t count) {
+  std::vector<double> radii;
+  for (std::size_t i = 0; i < count; ++i) {
+    const double at = count < 2 ? 0 : static_cast<double>(i * (given.size() - 1)) / static_cast<double>(count - 1);
+    const auto low = std::min(static_cast<std::size_t>(at), given.size() - 1);
+    const auto high = std::min(low + 1, given.size() - 1);
+    radii.push_back(given[low] + (given[high] - given[low]) * (at - std::floor(at)));
+  }
+  return radii;
 }
 
 double doubleArea(const std::vector<Vec>& outline) {

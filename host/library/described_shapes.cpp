@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/library/blob.h"
 #include "host/library/curves.h"
 #include "host/library/shapes.h"
 
@@ -29,7 +30,15 @@ Mesh boxShape(Fields& fields) {
   return makeBox(size, fields.number("round", 0));
 }
 
-Mesh sphereShape(Fields& fields) { return makeSphere(positive(fields, "sphere"), segmentsOf(fields, "segments", 20)); }
+Mesh sphereShape(Fields& fields) {
+  const int segments = segmentsOf(fields, "segments", 20);
+  if (!fields.raw("sphere").is_array()) return makeSphere(positive(fields, "sphere"), segments);
+  const Vec radii = fields.vec("sphere", {});
+  if (!(radii.x > 0 && radii.y > 0 && radii.z > 0)) fields.fail("a sphere needs radii greater than 0");
+  Mesh mesh = makeSphere(1, segments);
+  mesh.map(Transform::scale(radii));
+  return mesh;
+}
 
 Mesh cylinderShape(Fields& fields) {
   const double radius = positive(fields, "cylinder");
@@ -68,18 +77,6 @@ Mesh extrusionShape(Fields& fields) {
   }
 }
 
-/// The radii of a path's points, spread evenly over the finer curve.
-std::vector<double> radiiAlong(const std::vector<double>& given, std::size_t count) {
-  std::vector<double> radii;
-  for (std::size_t i = 0; i < count; ++i) {
-    const double at = count < 2 ? 0 : static_cast<double>(i * (given.size() - 1)) / static_cast<double>(count - 1);
-    const auto low = std::min(static_cast<std::size_t>(at), given.size() - 1);
-    const auto high = std::min(low + 1, given.size() - 1);
-    radii.push_back(given[low] + (given[high] - given[low]) * (at - std::floor(at)));
-  }
-  return radii;
-}
-
 Mesh tubeShape(Fields& fields) {
   const bool closed = fields.flag("closed", false);
   const std::vector<Vec> path = curveOf(fields, "tube", closed, true);
@@ -109,7 +106,7 @@ struct ShapeKind {
 
 constexpr ShapeKind shapeKinds[] = {{"box", boxShape},           {"sphere", sphereShape}, {"cylinder", cylinderShape},
                                     {"cone", coneShape},         {"torus", torusShape},   {"lathe", latheShape},
-                                    {"extrude", extrusionShape}, {"tube", tubeShape}};
+                                    {"extrude", extrusionShape}, {"tube", tubeShape},     {"blob", blobShape}};
 
 }  // namespace
 

@@ -2,11 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
 #include <limits>
 
 #include "host/library/described_shapes.h"
+#include "host/library/files.h"
 #include "host/library/motion.h"
+#include "host/library/placement.h"
 
 namespace nerida::library {
 namespace {
@@ -15,7 +16,6 @@ using nlohmann::json;
 
 constexpr double defaultCrease = 40;
 constexpr int deepestNesting = 32;
-constexpr int mostCopies = 1000;
 
 double linearOfByte(int value) {
   const double v = value / 255.0;
@@ -58,7 +58,7 @@ class Builder {
 
  private:
   struct Part {
-    std::string name;
+    std::string name, place;
     std::size_t paint = 0;
     Vec at, size;
     Quaternion turn;
@@ -86,7 +86,7 @@ class Builder {
     Node node;
     node.name = part.name;
     node.placement = placement;
-    node.motion = describedMotion(*part.animate, place + ", part " + part.name, model.frames, part.at, part.turn);
+    node.motion = describedMotion(*part.animate, part.place, model.frames, part.at, part.turn);
     fill(part, Transform::scale(part.size), node);
     into.children.push_back(std::move(node));
   }
@@ -101,10 +101,18 @@ class Builder {
     if (part.used) addParts(*part.used, placement, part.paint, into);
   }
 
+  /// A part out of a recipe knows its line, others have at best a name.
+  [[nodiscard]] std::string placeOf(const json& source) const {
+    if (!source.is_object()) return place + ", a part";
+    if (source.contains("line")) return place + ":" + source["line"].dump();
+    return place + ", part " + source.value("name", std::string("without a name"));
+  }
+
   Part read(const json& source, std::size_t inheritedPaint) {
-    const std::string name = source.is_object() ? source.value("name", std::string("part")) : "part";
-    Fields fields(source, place + ", part " + name);
+    Fields fields(source, placeOf(source));
     Part part;
+    part.place = placeOf(source);
+    fields.integer("line", 0);
     part.name = fields.text("name", "part");
     part.paint = fields.has("material") ? paintNamed(fields) : inheritedPaint;
     part.at = fields.vec("at", {});
@@ -132,34 +140,6 @@ class Builder {
     const std::string name = fields.text("use");
     if (!shapes.contains(name)) fields.fail("there is no definition " + name);
     return shapes[name];
-  }
-
-  static Vec sizeOf(Fields& fields) {
-    if (!fields.has("size")) return {1, 1, 1};
-    if (fields.raw("size").is_array()) return fields.vec("size", {});
-    const double all = fields.number("size");
-    return {all, all, all};
-  }
-
-  static std::vector<Transform> copiesOf(Fields& fields) {
-    std::vector<Transform> copies{Transform{}};
-    if (fields.has("repeat")) {
-      Fields repeat(fields.raw("repeat"), "repeat");
-      const int count = repeat.integer("count", 0);
-      if (count < 1 || count > mostCopies) repeat.fail("\"count\" must be 1 to 1000");
-      const Transform step =
-          Transform::shift(repeat.vec("move", {})) * Transform::turn(quaternionOfTurn(repeat.vec("turn", {})));
-      repeat.close();
-      while (static_cast<int>(copies.size()) < count) copies.push_back(step * copies.back());
-    }
-    if (fields.has("mirror")) {
-      const std::string axis = fields.text("mirror");
-      if (axis != "x" && axis != "y" && axis != "z") fields.fail("\"mirror\" must be x, y or z");
-      const Transform mirror =
-          Transform::scale({axis == "x" ? -1.0 : 1.0, axis == "y" ? -1.0 : 1.0, axis == "z" ? -1.0 : 1.0});
-      for (std::size_t i = 0, count = copies.size(); i < count; ++i) copies.push_back(mirror * copies[i]);
-    }
-    return copies;
   }
 
   BuiltModel& model;
@@ -227,13 +207,16 @@ BuiltModel buildModel(const json& description, const std::string& where) {
   return model;
 }
 
-BuiltModel buildModelFile(const std::filesystem::path& file) {
-  std::ifstream stream(file, std::ios::binary);
+BuiltModel buildModelFile(const std::filesystem::path& file, const Shared& shared) {
   const std::string where = file.filename().string();
-  if (!stream) throw LibraryError(where + ": cannot be read");
-  const json description = json::parse(stream, nullptr, false, true);
-  if (description.is_discarded()) throw LibraryError(where + ": is not JSON");
-  return buildModel(description, where);
+  const std::optional<std::string> text = readWhole(file);
+  if (!text) throw LibraryError(where + ": cannot be read");
+  return buildModel(readRecipe(*text, where, shared), where);
+}
+
+Shared readSharedFile(const std::filesystem::path& folder) {
+  const std::optional<std::string> text = readWhole(folder / "shared.recipe");
+  return text ? readShared(*text, "shared.recipe") : Shared{};
 }
 
 }  // namespace nerida::library

@@ -36,6 +36,7 @@ class Fields {
   /// Two or three coordinates each; the third is 0 if left out.
   std::vector<Vec> points(const char* key);
   void close() const;
+  [[nodiscard]] const std::string& where() const { return place; }
 
   [[noreturn]] void fail(const std::string& what) const;
 

@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <charconv>
 #include <fstream>
-#include <iterator>
 #include <map>
 #include <set>
 
 #include "host/library/description.h"
 #include "host/library/fields.h"
+#include "host/library/files.h"
 #include "host/library/glb_check.h"
 #include "host/library/glb_writer.h"
 #include "host/library/model_path.h"
@@ -18,16 +18,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string readWhole(const fs::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-}
-
 std::vector<fs::path> descriptionsIn(const fs::path& folder) {
   std::error_code error;
   std::vector<fs::path> files;
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
-    if (entry.path().extension() == ".json") files.push_back(entry.path());
+  for (fs::recursive_directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
+    if (at->path().extension() == ".model") files.push_back(at->path());
   }
   if (error) throw LibraryError(folder.string() + ": cannot be read");
   if (files.empty()) throw LibraryError(folder.string() + ": holds no descriptions");
@@ -89,25 +84,12 @@ void addSurplus(const fs::path& library, const std::set<fs::path>& wanted, std::
 
 }  // namespace
 
-void writeFile(const fs::path& file, const std::string& bytes) {
-  std::error_code error;
-  if (fs::file_size(file, error) == bytes.size() && !error && readWhole(file) == bytes) return;
-  fs::create_directories(file.parent_path(), error);
-  fs::path unfinished = file;
-  unfinished += ".part";
-  std::ofstream stream(unfinished, std::ios::binary);
-  stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  stream.close();
-  if (!stream) throw LibraryError(file.string() + ": cannot be written");
-  fs::rename(unfinished, file, error);
-  if (error) throw LibraryError(file.string() + ": cannot be replaced");
-}
-
 void buildLibrary(const fs::path& descriptions, const fs::path& target,
                   const std::function<void(const std::string&)>& progress) {
   std::map<std::int32_t, std::string> lines;
+  const Shared shared = readSharedFile(descriptions);
   for (const fs::path& file : descriptionsIn(descriptions)) {
-    const BuiltModel model = buildModelFile(file);
+    const BuiltModel model = buildModelFile(file, shared);
     const ModelCard& card = model.card;
     if (!lines.emplace(card.number, indexLine(card)).second) {
       throw LibraryError(file.filename().string() + ": number " + std::to_string(card.number) + " is taken already");

@@ -13,7 +13,8 @@ namespace nerida::library {
 /// number, name, category, sub-category, "animated" or "still", keywords separated by commas.
 inline constexpr const char* indexFileName = "index.txt";
 
-/// Builds a model file for every description (*.json) in `descriptions` below `target`, and the index. Files that are
+/// Builds a model file for every description (*.model, at any depth) in `descriptions`
+/// below `target`, and the index. Files that are
 /// right already are not written again; model files of other numbers stay. `progress` hears one line for each model.
 /// Throws LibraryError; then the index is as it was.
 void buildLibrary(const std::filesystem::path& descriptions, const std::filesystem::path& target,
@@ -24,8 +25,5 @@ std::vector<ModelCard> readIndex(const std::filesystem::path& library);
 
 /// Everything that is wrong with a library, one sentence each: unreadable, missing and surplus model files.
 std::vector<std::string> checkLibrary(const std::filesystem::path& library);
-
-/// Replaces a file's content in one step, or leaves it alone when the content is the same. Throws LibraryError.
-void writeFile(const std::filesystem::path& file, const std::string& bytes);
 
 }  // namespace nerida::library

@@ -11,17 +11,23 @@ struct Key {
   Vec value;
 };
 
-std::vector<Key> keysOf(Fields& fields, const char* name) {
-  if (!fields.has(name)) return {};
+/// Times are multiplied by `unit`.
+std::vector<Key> keysOf(Fields& fields, const char* name, double unit) {
   std::vector<Key> keys;
   for (const nlohmann::json& entry : fields.raw(name)) {
     const bool fits = entry.is_array() && entry.size() == 2 && entry[0].is_number() && entry[1].is_array() &&
-                      entry[1].size() == 3 && (keys.empty() || entry[0].get<double>() > keys.back().frame);
+                      entry[1].size() == 3 && (keys.empty() || entry[0].get<double>() * unit > keys.back().frame);
     if (!fits) fields.fail(std::string("\"") + name + "\" needs [frame, [x, y, z]] in rising order of frames");
     const auto value = entry[1].get<std::array<double, 3>>();
-    keys.push_back({entry[0].get<double>(), {value[0], value[1], value[2]}});
+    keys.push_back({entry[0].get<double>() * unit, {value[0], value[1], value[2]}});
   }
   return keys;
+}
+
+/// Keys by frame, or by shares of the whole animation.
+std::vector<Key> keysOf(Fields& fields, const char* byFrame, const char* byShare, int frames) {
+  if (fields.has(byFrame)) return keysOf(fields, byFrame, 1);
+  return fields.has(byShare) ? keysOf(fields, byShare, frames) : std::vector<Key>();
 }
 
 Vec valueAt(const std::vector<Key>& keys, double frame, bool soft) {
@@ -49,10 +55,11 @@ Quaternion nearer(const Quaternion& turn, const std::vector<Quaternion>& before)
 Motion describedMotion(const nlohmann::json& animate, const std::string& where, int frames, const Vec& restPlace,
                        const Quaternion& restTurn) {
   Fields fields(animate, where + ", animate");
-  const std::vector<Key> turns = keysOf(fields, "turn"), shifts = keysOf(fields, "move");
+  if (frames < 2) fields.fail("the model has no \"frames\"");
+  const std::vector<Key> turns = keysOf(fields, "turn", "turnShares", frames);
+  const std::vector<Key> shifts = keysOf(fields, "move", "moveShares", frames);
   const bool soft = fields.text("ease", "none") == "soft";
   fields.close();
-  if (frames < 2) fields.fail("the model has no \"frames\"");
   Motion motion;
   for (int frame = 0; frame < frames; ++frame) {
     motion.places.push_back(restPlace + valueAt(shifts, frame, soft));
