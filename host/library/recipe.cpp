@@ -12,8 +12,7 @@ using nlohmann::json;
 using Lines = std::vector<RecipeLine>;
 
 bool isColor(const std::string& text) {
-  return text.size() == 7 && text[0] == '#' &&
-         text.find_first_not_of("0123456789abcdefABCDEF", 1) == std::string::npos;
+  return text.size() == 7 && text[0] == '#' && text.find_first_not_of("0123456789abcdefABCDEF", 1) == std::string::npos;
 }
 
 class Reader {

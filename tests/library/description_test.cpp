@@ -110,21 +110,26 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Refused{"[]", "", "thing.json: the model is empty"}, Refused{"{}", "", "thing.json: \"parts\" must be a list"},
         Refused{R"([{"name": "x"}])", "", "thing.json, part x: it has neither a shape nor parts"},
-        Refused{R"([{"box": [1, 1, 1], "colour": "red"}])", "", "thing.json, part part: \"colour\" is not known here"},
-        Refused{R"([{"box": [1, 1]}])", "", "thing.json, part part: a box needs three sides greater than 0"},
-        Refused{R"([{"box": "big"}])", "", "thing.json, part part: \"box\" needs two or three coordinates"},
-        Refused{R"([{"cylinder": 1}])", "", "thing.json, part part: \"height\" is missing"},
-        Refused{R"([{"sphere": -1}])", "", "thing.json, part part: \"sphere\" must be greater than 0"},
-        Refused{R"([{"sphere": 1, "segments": 2}])", "", "thing.json, part part: \"segments\" must be 3 to 256"},
-        Refused{R"([{"sphere": 1, "material": "tin"}])", "", "thing.json, part part: there is no material tin"},
-        Refused{R"([{"use": "leg"}])", "", "thing.json, part part: there is no definition leg"},
+        Refused{R"([{"box": [1, 1, 1], "colour": "red"}])", "",
+                "thing.json, part without a name: \"colour\" is not known here"},
+        Refused{R"([{"box": [1, 1]}])", "", "thing.json, part without a name: a box needs three sides greater than 0"},
+        Refused{R"([{"box": "big"}])", "", "thing.json, part without a name: \"box\" needs two or three coordinates"},
+        Refused{R"([{"cylinder": 1}])", "", "thing.json, part without a name: \"height\" is missing"},
+        Refused{R"([{"sphere": -1}])", "", "thing.json, part without a name: \"sphere\" must be greater than 0"},
+        Refused{R"([{"sphere": 1, "segments": 2}])", "",
+                "thing.json, part without a name: \"segments\" must be 3 to 256"},
+        Refused{R"([{"sphere": 1, "material": "tin"}])", "",
+                "thing.json, part without a name: there is no material tin"},
+        Refused{R"([{"use": "leg"}])", "", "thing.json, part without a name: there is no definition leg"},
         Refused{R"([{"use": "a"}])", R"(, "shapes": {"a": [{"use": "a"}]})", "thing.json: parts are nested too deeply"},
-        Refused{R"([{"sphere": 1, "mirror": "w"}])", "", "thing.json, part part: \"mirror\" must be x, y or z"},
+        Refused{R"([{"sphere": 1, "mirror": "w"}])", "",
+                "thing.json, part without a name: \"mirror\" must be x, y or z"},
         Refused{R"([{"sphere": 1, "repeat": {"count": 100000}}])", "", "repeat: \"count\" must be 1 to 1000"},
         Refused{R"([{"sphere": 1, "animate": {"turn": [[0, [0, 0, 0]]]}}])", "",
-                "thing.json, part part, animate: the model has no \"frames\""},
-        Refused{R"([{"sphere": 1, "animate": {"turn": [[4, [0, 0, 0]], [4, [0, 0, 0]]]}}])", R"(, "frames": 8)",
-                "thing.json, part part, animate: \"turn\" needs [frame, [x, y, z]] in rising order of frames"},
+                "thing.json, part without a name, animate: the model has no \"frames\""},
+        Refused{
+            R"([{"sphere": 1, "animate": {"turn": [[4, [0, 0, 0]], [4, [0, 0, 0]]]}}])", R"(, "frames": 8)",
+            "thing.json, part without a name, animate: \"turn\" needs [frame, [x, y, z]] in rising order of frames"},
         Refused{"[]", R"(, "frames": 2.5)", "thing.json: \"frames\" must be a whole number of 32 bits"},
         Refused{"[]", R"(, "frames": -1)", "thing.json: \"frames\" must be 0 to 10000"}));
 
@@ -135,8 +140,8 @@ TEST(Description, BadColorIsRefused) {
 }
 
 TEST(Description, MissingFileAndForeignFileAreRefused) {
-  EXPECT_THROW(buildModelFile("no such file.json"), LibraryError);
-  EXPECT_THROW(buildModelFile(LIBRARY_TOOL), LibraryError);
+  EXPECT_THROW(buildModelFile("no such file.model", {}), LibraryError);
+  EXPECT_THROW(buildModelFile(LIBRARY_TOOL, {}), LibraryError);
 }
 
 }  // namespace

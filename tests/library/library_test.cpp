@@ -11,9 +11,7 @@ namespace {
 namespace fs = std::filesystem;
 
 std::string thing(int number, const std::string& name = "Thing") {
-  return R"({"number": )" + std::to_string(number) + R"(, "name": ")" + name +
-         R"(", "category": "C", "subcategory": "S", "keywords": ["one", "two words"],
-            "materials": {"a": "#808080"}, "parts": [{"box": [1, 2, 3]}]})";
+  return "model " + std::to_string(number) + " \"" + name + "\"\nin C, S\nwords one, two words\nbox 1,2,3 #808080\n";
 }
 
 void ignore(const std::string&) {}
@@ -27,8 +25,8 @@ class Library : public testing::Test {
 };
 
 TEST_F(Library, FilesLieInTheFolderScheme) {
-  descriptions.write("a.json", thing(12343));
-  descriptions.write("b.json", thing(42));
+  descriptions.write("a.model", thing(12343));
+  descriptions.write("b.model", thing(42));
   build();
   EXPECT_TRUE(fs::is_regular_file(models() / "dv12000/dv12300/dv12340/dv12343.twe"));
   EXPECT_TRUE(fs::is_regular_file(models() / "dv0000/dv0000/dv0040/dv42.twe"));
@@ -36,8 +34,8 @@ TEST_F(Library, FilesLieInTheFolderScheme) {
 }
 
 TEST_F(Library, IndexIsByNumberAndReadsBack) {
-  descriptions.write("a.json", thing(300, "Later"));
-  descriptions.write("b.json", thing(2, "First"));
+  descriptions.write("a.model", thing(300, "Later"));
+  descriptions.write("b.model", thing(2, "First"));
   build();
   EXPECT_EQ(contentOf(models() / indexFileName),
             "2\tFirst\tC\tS\tstill\tone,two words\n300\tLater\tC\tS\tstill\tone,two words\n");
@@ -48,13 +46,13 @@ TEST_F(Library, IndexIsByNumberAndReadsBack) {
 }
 
 TEST_F(Library, TabInANameDoesNotBreakTheIndex) {
-  descriptions.write("a.json", thing(1, "Tea\\tpot"));
+  descriptions.write("a.model", thing(1, "Tea\tpot"));
   build();
   EXPECT_EQ(readIndex(models()).front().name, "Tea pot");
 }
 
 TEST_F(Library, UnchangedFilesAreNotWrittenAgain) {
-  descriptions.write("a.json", thing(1));
+  descriptions.write("a.model", thing(1));
   build();
   const fs::path file = models() / "dv0000/dv0000/dv0000/dv1.twe";
   const auto longAgo = fs::file_time_type::clock::now() - std::chrono::hours(100);
@@ -64,9 +62,9 @@ TEST_F(Library, UnchangedFilesAreNotWrittenAgain) {
 }
 
 TEST_F(Library, TwiceTheSameNumberIsRefusedAndLeavesTheIndex) {
-  descriptions.write("a.json", thing(1, "Kept"));
+  descriptions.write("a.model", thing(1, "Kept"));
   build();
-  descriptions.write("b.json", thing(1, "Second"));
+  descriptions.write("b.model", thing(1, "Second"));
   EXPECT_THROW(build(), LibraryError);
   EXPECT_EQ(readIndex(models()).front().name, "Kept");
 }
@@ -77,7 +75,7 @@ TEST_F(Library, FolderWithoutDescriptionsIsRefused) {
 }
 
 TEST_F(Library, CheckNamesDamagedMissingAndSurplusFiles) {
-  for (const int number : {1, 2, 3}) descriptions.write(std::to_string(number) + ".json", thing(number));
+  for (const int number : {1, 2, 3}) descriptions.write(std::to_string(number) + ".model", thing(number));
   build();
   const fs::path folder = models() / "dv0000/dv0000/dv0000";
   fs::resize_file(folder / "dv1.twe", 100);
