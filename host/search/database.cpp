@@ -34,26 +34,8 @@ DatabaseFault faultOf(int status) {
   }
 }
 
-const char* sentence(DatabaseFault fault) {
-  switch (fault) {
-    case DatabaseFault::missing:
-      return "The model database is missing";
-    case DatabaseFault::foreign:
-      return "This is no model database";
-    case DatabaseFault::damaged:
-      return "The model database is damaged";
-    case DatabaseFault::busy:
-      return "The model database is in use by another program";
-    case DatabaseFault::memory:
-      return "There is not enough memory for the model database";
-    case DatabaseFault::other:
-      break;
-  }
-  return "The model database cannot be used";
-}
-
 DatabaseError errorAbout(DatabaseFault fault, const std::filesystem::path& file, const std::string& detail) {
-  return {fault, std::string(sentence(fault)) + ": " + utf8(file) + (detail.empty() ? "" : " (" + detail + ")")};
+  return {fault, std::string(describe(fault)) + ": " + utf8(file) + (detail.empty() ? "" : " (" + detail + ")")};
 }
 
 bool isAbsent(const std::filesystem::path& file) {

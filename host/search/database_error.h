@@ -14,6 +14,25 @@ enum class DatabaseFault {
   other,
 };
 
+/// What is wrong, for people: the beginning of a sentence that goes on with the file.
+constexpr const char* describe(DatabaseFault fault) {
+  switch (fault) {
+    case DatabaseFault::missing:
+      return "The model database is missing";
+    case DatabaseFault::foreign:
+      return "This is no model database";
+    case DatabaseFault::damaged:
+      return "The model database is damaged";
+    case DatabaseFault::busy:
+      return "The model database is in use by another program";
+    case DatabaseFault::memory:
+      return "There is not enough memory for the model database";
+    case DatabaseFault::other:
+      break;
+  }
+  return "The model database cannot be used";
+}
+
 /// The database cannot be read or written; the text says which and why.
 class DatabaseError : public std::runtime_error {
  public:

@@ -91,11 +91,11 @@ std::vector<Hit> SearchEngine::searchKeywords(std::string_view text) {
   return bestFirst(std::move(hits));
 }
 
-std::vector<Hit> SearchEngine::searchRandom() {
+std::vector<Hit> SearchEngine::searchRandom(std::size_t count) {
   const Transaction view(parts->database, Transaction::Kind::reading);
   Statement model(parts->database, "SELECT number, name, flags FROM model WHERE number = ?");
   std::vector<Hit> hits;
-  for (const std::int64_t number : randomNumbers(parts->database, randomSelectionSize)) {
+  for (const std::int64_t number : randomNumbers(parts->database, count)) {
     model.reset();
     if (model.bind(1, number).step()) hits.push_back(hitOf(model));
   }

@@ -30,9 +30,6 @@ struct Category {
   std::vector<std::string> subcategories;
 };
 
-/// How many models a random selection has, if there are as many.
-inline constexpr std::size_t randomSelectionSize = 30;
-
 /// Finds models. One object is used by one thread at a time. Everything here throws DatabaseError; the engine stays
 /// usable after it.
 class SearchEngine {
@@ -45,8 +42,8 @@ class SearchEngine {
   /// each, names before keywords, whole words before beginnings, short names before long ones, then by name.
   std::vector<Hit> searchKeywords(std::string_view text);
 
-  /// A fresh selection each time, in no order.
-  std::vector<Hit> searchRandom();
+  /// `count` models, or all if there are fewer: a fresh selection each time, in no order.
+  std::vector<Hit> searchRandom(std::size_t count);
 
   /// The models of the sub-categories of that name, by name.
   std::vector<Hit> searchCategory(std::string_view subcategory);

@@ -13,6 +13,7 @@ using Numbers = std::vector<std::int64_t>;
 
 /// Where fewer than one number in so many is in use, guessing takes longer than reading all of them.
 constexpr std::size_t guessesPerModel = 40;
+constexpr std::size_t mostGuessedModels = 100;
 
 // Guesses a number between the smallest and the greatest until enough models were hit: no model is preferred, however
 // wide the gaps between the numbers are.
@@ -45,7 +46,7 @@ Numbers byReadingAll(Database& database, std::size_t count, std::mt19937& random
 Numbers randomNumbers(Database& database, std::size_t count) {
   std::random_device seed;
   std::mt19937 random(seed());
-  Numbers numbers = byGuessing(database, count, random);
+  const Numbers numbers = count <= mostGuessedModels ? byGuessing(database, count, random) : Numbers();
   return numbers.size() == count ? numbers : byReadingAll(database, count, random);
 }
 

@@ -7,6 +7,15 @@
 
 namespace nerida::host {
 
+/// An interface whose type library lies in the server's module, as its resource 1. The texts last as long as the
+/// program.
+struct ServerInterface {
+  GUID id;
+  const wchar_t* name;
+  GUID library;  ///< of version 1.0
+  const wchar_t* libraryTitle;
+};
+
 /// A class that an in-process server offers. The texts last as long as the program.
 struct ServerClass {
   GUID id;
@@ -16,6 +25,7 @@ struct ServerClass {
   bool isControl;            ///< containers may offer it
   /// The new object's one reference goes to the caller. May throw.
   IUnknown* (*create)();
+  const ServerInterface* dual = nullptr;  ///< registered along with the class
 };
 
 /// Each server defines this.

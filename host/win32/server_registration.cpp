@@ -45,6 +45,25 @@ std::vector<Entry> entriesOf(const ServerClass& of) {
   return entries;
 }
 
+std::wstring libraryKey(const ServerInterface& of) { return L"TypeLib\\" + braced(of.library); }
+
+// A type library is one for both bitnesses, each of which adds its file.
+std::vector<Entry> libraryNamesOf(const ServerInterface& of) {
+  const std::wstring key = libraryKey(of);
+  return {{key, L""}, {key + L"\\1.0", of.libraryTitle}, {key + L"\\1.0\\0", L""}, {key + L"\\1.0\\FLAGS", L"0"}};
+}
+
+std::vector<Entry> entriesOf(const ServerInterface& of) {
+  // The system's marshaller that works from type libraries.
+  constexpr const wchar_t* automationMarshaller = L"{00020424-0000-0000-C000-000000000046}";
+  const std::wstring key = L"Interface\\" + braced(of.id);
+  return {{key, of.name},
+          {key + L"\\ProxyStubClsid32", automationMarshaller},
+          {key + L"\\TypeLib", braced(of.library)},
+          {key + L"\\TypeLib", L"1.0", L"Version"},
+          {libraryKey(of) + L"\\1.0\\0\\" + (sizeof(void*) == 8 ? L"win64" : L"win32"), modulePath()}};
+}
+
 std::wstring pathOf(const Entry& entry) { return L"Software\\Classes\\" + entry.key; }
 
 LONG write(HKEY root, const Entry& entry) {
@@ -86,6 +105,10 @@ HRESULT registerClasses(HKEY root) {
   for (const ServerClass& each : serverClasses()) {
     std::vector<Entry> entries = namesOf(each);
     for (const Entry& own : entriesOf(each)) entries.push_back(own);
+    if (each.dual != nullptr) {
+      for (const Entry& entry : libraryNamesOf(*each.dual)) entries.push_back(entry);
+      for (const Entry& entry : entriesOf(*each.dual)) entries.push_back(entry);
+    }
     for (const Entry& entry : entries) {
       if (const LONG status = write(root, entry); status != ERROR_SUCCESS) {
         unregisterClasses(root);
@@ -96,12 +119,16 @@ HRESULT registerClasses(HKEY root) {
   return S_OK;
 }
 
-// The names serve both bitnesses: the last one to go takes them away.
+// The names, and those of a type library, serve both bitnesses: the last one to go takes them away.
 HRESULT unregisterClasses(HKEY root) {
   bool left = false;
   for (const ServerClass& each : serverClasses()) {
     remove(root, entriesOf(each));
-    if (!isRegistered(root, each, otherBitness)) remove(root, namesOf(each));
+    if (each.dual != nullptr) remove(root, entriesOf(*each.dual));
+    if (!isRegistered(root, each, otherBitness)) {
+      remove(root, namesOf(each));
+      if (each.dual != nullptr) remove(root, libraryNamesOf(*each.dual));
+    }
     left = left || isRegistered(root, each, 0);
   }
   return left ? SELFREG_E_CLASS : S_OK;

@@ -25,7 +25,7 @@ bool useAll(const EngineFiles& files) {
   try {
     SearchEngine engine(files);
     for (const char* text : {"boat", "thing 7", "wat", "baot", "k1 water"}) engine.searchKeywords(text);
-    engine.searchRandom();
+    engine.searchRandom(30);
     for (const Category& category : engine.categories()) {
       for (const std::string& name : category.subcategories) engine.searchCategory(name);
     }

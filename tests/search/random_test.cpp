@@ -27,8 +27,8 @@ TEST(RandomSelection, IsAnotherOneEachTime) {
   SearchEngine engine = sample.engine();
   std::set<std::set<std::int32_t>> selections;
   for (int i = 0; i < 20; ++i) {
-    const std::vector<Hit> hits = engine.searchRandom();
-    EXPECT_EQ(numbersOf(hits).size(), randomSelectionSize) << "a model came twice";
+    const std::vector<Hit> hits = engine.searchRandom(30);
+    EXPECT_EQ(numbersOf(hits).size(), 30U) << "a model came twice";
     EXPECT_EQ(hits.front().name, "Thing " + std::to_string(hits.front().number));
     selections.insert(numbersOf(hits));
   }
@@ -37,7 +37,7 @@ TEST(RandomSelection, IsAnotherOneEachTime) {
 
 TEST(RandomSelection, IsAnotherOneForEachEngine) {
   const Sample sample(numberedCards(500));
-  EXPECT_NE(numbersOf(sample.engine().searchRandom()), numbersOf(sample.engine().searchRandom()));
+  EXPECT_NE(numbersOf(sample.engine().searchRandom(30)), numbersOf(sample.engine().searchRandom(30)));
 }
 
 TEST(RandomSelection, OfFewModelsHasAllOfThemInAnyOrder) {
@@ -45,14 +45,14 @@ TEST(RandomSelection, OfFewModelsHasAllOfThemInAnyOrder) {
   SearchEngine engine = sample.engine();
   std::set<std::vector<std::string>> orders;
   for (int i = 0; i < 10; ++i) {
-    const std::vector<Hit> hits = engine.searchRandom();
+    const std::vector<Hit> hits = engine.searchRandom(30);
     EXPECT_EQ(numbersOf(hits).size(), 12U);
     orders.insert(namesOf(hits));
   }
   EXPECT_GT(orders.size(), 1U);
 }
 
-TEST(RandomSelection, OfNoModelsIsEmpty) { EXPECT_TRUE(Sample({}).engine().searchRandom().empty()); }
+TEST(RandomSelection, OfNoModelsIsEmpty) { EXPECT_TRUE(Sample({}).engine().searchRandom(30).empty()); }
 
 // Numbers with wide gaps, and negative ones: each model must come up about as often as any other.
 TEST(RandomSelection, PrefersNoModel) {
@@ -64,7 +64,7 @@ TEST(RandomSelection, PrefersNoModel) {
     SearchEngine engine = sample.engine();
     std::map<std::int32_t, int> times;
     for (int i = 0; i < 400; ++i) {
-      for (const Hit& hit : engine.searchRandom()) ++times[hit.number];
+      for (const Hit& hit : engine.searchRandom(30)) ++times[hit.number];
     }
     ASSERT_EQ(times.size(), 60U);
     // 200 are expected; ten standard deviations are 100.
