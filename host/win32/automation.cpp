@@ -24,7 +24,8 @@ HRESULT describe(const MemberError& error, const Outcome& outcome, CallRecord& r
   record.failure = std::to_string(error.number) + ' ' + error.description;
   if (outcome.exception == nullptr) return DISP_E_EXCEPTION;
   *outcome.exception = {};
-  outcome.exception->wCode = static_cast<WORD>(error.number);
+  // As a status: some script hosts overlook the field for plain numbers and take the failure for a success.
+  outcome.exception->scode = MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, error.number);
   outcome.exception->bstrSource = SysAllocString(outcome.source);
   outcome.exception->bstrDescription = SysAllocString(wide(error.description).c_str());
   return DISP_E_EXCEPTION;

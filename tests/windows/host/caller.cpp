@@ -74,7 +74,7 @@ Answer Caller::use(const wchar_t* name, WORD flags, std::initializer_list<const 
   EXCEPINFO exception = {};
   answer.status = called.Invoke(find(name), IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, &answer.result,
                                 &exception, &answer.badArgument);
-  answer.errorNumber = exception.wCode;
+  answer.errorNumber = HRESULT_CODE(exception.scode);
   answer.description = viewOf(exception.bstrDescription);
   answer.source = viewOf(exception.bstrSource);
   SysFreeString(exception.bstrDescription);
