@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "platform/control.h"
@@ -41,8 +43,8 @@ class ButtonBar : public Control {
   // 0 raises the button. An unknown key changes nothing.
   virtual void setValue(const std::string& key, int value) = 0;
 
-  // Whether the left mouse button is down at this moment with the pointer inside that button.
-  virtual bool isHeldByMouse(const std::string& key) const = 0;
+  // Inside buttonPress: when the mouse went down for it, by the desktop's clock; nothing if it was no click.
+  virtual std::optional<std::uint32_t> pressBegan() const = 0;
 
   // Gives the keyboard focus, visibly, to a button of the layout that is shown. Any other key changes nothing.
   virtual void focusButton(const std::string& key) = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 
 #include "platform/units.h"
@@ -21,6 +22,8 @@ class Desktop {
   virtual Point screenToClient(WindowHandle window, Point screen) = 0;
   // The active window of this thread, 0 when another program's window is active.
   virtual WindowHandle activeWindow() = 0;
+  // The system's milliseconds, from no particular start; they wrap round.
+  virtual std::uint32_t clock() = 0;
   // Asks for the foreground. Ignored while another application has it: closing a popup because the user went
   // elsewhere must not drag the user back.
   virtual void setForegroundWindow(WindowHandle window) = 0;

@@ -17,7 +17,13 @@ void Popup::Form_Load() {
 }
 
 void Popup::closeIfFocusWentElsewhere() {
-  if (focusGuards == 0 && isLoaded() && desktop.activeWindow() != hWnd()) HideSelf();
+  if (focusGuards > 0 || !isLoaded() || desktop.activeWindow() == hWnd()) return;
+  struct WhileLosing {
+    explicit WhileLosing(bool& flag) : flag(flag) { flag = true; }
+    ~WhileLosing() { flag = false; }
+    bool& flag;
+  } const whileLosing(losingFocus);
+  HideSelf();
 }
 
 }  // namespace nerida

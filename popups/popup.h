@@ -21,6 +21,8 @@ class Popup : public Form {
   virtual void ShowSelf(std::int16_t x, std::int16_t y);
   // Touching the size loads the form.
   Size sizeInPixels() { return window().sizeInPixels(); }
+  // While the popup closes because another window has become the active one.
+  bool isLosingFocus() const { return losingFocus; }
 
  protected:
   // While one of these lives the popup stays open though the focus goes: it hides itself, shows itself, or has opened
@@ -61,6 +63,7 @@ class Popup : public Form {
  private:
   Desktop& desktop;
   int focusGuards = 0;
+  bool losingFocus = false;
 };
 
 }  // namespace nerida

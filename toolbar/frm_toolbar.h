@@ -81,7 +81,7 @@ class frmToolbar : public Form, public PopupOpener {
   static constexpr int worldBars = 3;
   static constexpr int moveBars = 4;
 
-  // Which of the toolbar's popups is up. A mark may outlive its popup while its button is being pressed.
+  // Which of the toolbar's popups is up. A mark outlives a popup that was closed by the click that presses its button.
   struct OpenMarks {
     bool lineThickness = false;
     bool lineColor = false;
@@ -124,8 +124,8 @@ class frmToolbar : public Form, public PopupOpener {
   static std::int32_t topWithin(const Size& screen, std::int32_t top, const Size& popup);
   Point placeOfStylePopup(const PopupButton& button);
   Point placeOfLighting();
-  bool isPressing(const PopupButton& button);
-  void forgetPress(const char* bar, const std::string& key);
+  void settleClosing(const PopupButton* pressed);
+  bool hasClosedPopup(const ButtonBar& pressed) const;
   bool chooseColor(WindowHandle owner, Rgb& custom, Rgb start, void (ModelObject::*setColor)(std::int32_t));
   Rgb& shownColor(ColorRole role) { return shownColors[static_cast<std::size_t>(role)]; }
 
@@ -154,6 +154,8 @@ class frmToolbar : public Form, public PopupOpener {
   std::int32_t NudgeAmount = 0;
   std::int16_t OpenChild = 0;
   OpenMarks openMarks;
+  const PopupButton* closedByClick = nullptr;  // whose popup has lost the focus, perhaps to its own button
+  std::uint32_t closedAt = 0;                  // and when
   bool NudgeOn = false;
   std::int32_t activations = 0;
   bool Initialising = false;

@@ -45,6 +45,7 @@ void frmToolbar::resetState() {
   NudgeAmount = 100;
   OpenChild = 0;
   openMarks = {};
+  closedByClick = nullptr;
   NudgeOn = false;
   activations = 0;
   Initialising = false;
@@ -62,11 +63,9 @@ void frmToolbar::connectEvents() {
   bar("barMB", 0).buttonPress = [this](const std::string& key) { barMB_ButtonPress(key); };
   for (int i = 0; i < styleBars; ++i) {
     bar("barLS", i).buttonPress = [this](const std::string& key) { barLS_ButtonPress(key); };
-    bar("barLS", i).buttonMouseMove = [this](const std::string& key) { forgetPress("barLS", key); };
   }
   for (int i = 0; i < worldBars; ++i) {
     bar("barWorld", i).buttonPress = [this](const std::string& key) { barWorld_ButtonPress(key); };
-    bar("barWorld", i).buttonMouseMove = [this](const std::string& key) { forgetPress("barWorld", key); };
   }
   for (int i = 0; i < moveBars; ++i) {
     bar("barMove", i).buttonPress = [this](const std::string& key) { barMove_ButtonPress(key); };

@@ -35,6 +35,7 @@ const frmToolbar::PopupButton* frmToolbar::popupButton(std::string_view bar, con
 void frmToolbar::barLS_ButtonPress(const std::string& key) {
   handle(messages, [&] {
     const PopupButton* button = popupButton("barLS", key);
+    settleClosing(button);
     if (!button) return;
     if (openMarks.*button->mark) {
       closePopup(*button);
@@ -48,6 +49,7 @@ void frmToolbar::barLS_ButtonPress(const std::string& key) {
 
 void frmToolbar::barWorld_ButtonPress(const std::string& key) {
   handle(messages, [&] {
+    settleClosing(popupButton("barWorld", key));
     openMarks.lineThickness = openMarks.lineColor = openMarks.fillColor = openMarks.background = false;
     if (key == "Move") {
       NudgeToggle(!NudgeOn);
@@ -124,25 +126,34 @@ Point frmToolbar::placeOfLighting() {
   return {anchor.x - shift, topWithin(screen, anchor.y, neighbours.lighting->sizeInPixels())};
 }
 
-// A popup that closed because its own button is being pressed keeps its mark until that press arrives: the press
-// closes the popup and must not open it again.
+// A click on the popup's own button takes the focus from the popup, which closes it, before it presses the button. That
+// press must not open the popup again: until it comes, the mark stays.
 void frmToolbar::KillChild() {
   for (const PopupButton& button : popupButtons) {
-    if (openMarks.*button.mark && !(neighbours.*button.popup)->isVisible()) openMarks.*button.mark = isPressing(button);
+    const Popup& popup = *(neighbours.*button.popup);
+    if (!(openMarks.*button.mark) || popup.isVisible()) continue;
+    openMarks.*button.mark = popup.isLosingFocus();
+    if (!popup.isLosingFocus()) continue;
+    closedByClick = &button;
+    closedAt = desktop.clock();
   }
   if (OpenChild == std::numeric_limits<std::int16_t>::min()) throw Error(error::overflow);
   --OpenChild;
 }
 
-bool frmToolbar::isPressing(const PopupButton& button) {
-  return isLoaded() && desktop.activeWindow() == hWnd() && bar(button.bar, button.index).isHeldByMouse(button.key);
+// At a press: a mark that has waited for another one is forgotten.
+void frmToolbar::settleClosing(const PopupButton* pressed) {
+  const PopupButton* closed = std::exchange(closedByClick, nullptr);
+  if (!closed) return;
+  const bool isItsPress = closed == pressed && hasClosedPopup(bar(closed->bar, closed->index));
+  if (!isItsPress) openMarks.*closed->mark = (neighbours.*closed->popup)->isMarkedShown();
 }
 
-// The pointer is over a button that is not held: a press that was kept in mind has ended elsewhere.
-void frmToolbar::forgetPress(const char* barName, const std::string& key) {
-  const PopupButton* button = popupButton(barName, key);
-  if (!button || !(openMarks.*button->mark) || (neighbours.*button->popup)->isVisible()) return;
-  openMarks.*button->mark = bar(button->bar, button->index).isHeldByMouse(key);
+// The click that closed it began before; but the system's clocks agree only roughly.
+bool frmToolbar::hasClosedPopup(const ButtonBar& pressed) const {
+  constexpr std::int32_t tolerance = 100;  // milliseconds; no hand clicks twice as fast
+  const std::optional<std::uint32_t> began = pressed.pressBegan();
+  return began && static_cast<std::int32_t>(*began - closedAt) <= tolerance;
 }
 
 void frmToolbar::releaseButton(const std::string& key) {

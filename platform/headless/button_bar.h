@@ -48,7 +48,7 @@ class Bar : public ButtonBar {
   void showLayout(const std::string& layoutName) override;
   void setState(const std::string& key, int state, bool redraw) override;
   void setValue(const std::string& key, int value) override;
-  bool isHeldByMouse(const std::string& key) const override { return !heldKey.empty() && key == heldKey; }
+  std::optional<std::uint32_t> pressBegan() const override { return clickedAt; }
   void focusButton(const std::string& key) override { focusedKey = key; }
 
   // The pointer moves over a button.
@@ -64,7 +64,7 @@ class Bar : public ButtonBar {
   std::string shownLayout;
   std::string resourceFolder;
   std::string resourceFile;
-  std::string heldKey;  // the button in which the user holds the mouse down
+  std::optional<std::uint32_t> clickedAt;  // where the user presses with the mouse
   std::string focusedKey;
   bool enabled = false;
   bool showsTooltips = false;

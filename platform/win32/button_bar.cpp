@@ -9,18 +9,6 @@
 
 namespace nerida {
 
-namespace {
-
-// A window manager that activates windows by itself does so shortly before it lets the press through.
-bool isMousePressedOrAboutTo() {
-  constexpr DWORD patience = 200;  // milliseconds
-  const bool swapped = GetSystemMetrics(SM_SWAPBUTTON) != 0;
-  if (GetAsyncKeyState(swapped ? VK_RBUTTON : VK_LBUTTON) < 0) return true;
-  return MsgWaitForMultipleObjects(0, nullptr, FALSE, patience, QS_MOUSEBUTTON) == WAIT_OBJECT_0;
-}
-
-}  // namespace
-
 SystemButtonBar::SystemButtonBar(FormWindow& owner, const ControlLayout& row) : ControlOf(owner, row) {
   createOwn(buttonBarClass, 0);
 }
@@ -100,7 +88,6 @@ void SystemButtonBar::showLayout(const std::string& name) {
   const int index = static_cast<int>(found - layouts.data());
   if (index == current) return;
   cancelPress();
-  arriving = none;
   hot = none;
   focused = none;
   current = index;
@@ -125,16 +112,6 @@ void SystemButtonBar::setState(const std::string& key, int state, bool redrawNow
 
 void SystemButtonBar::setValue(const std::string& key, int value) {
   setState(key, value == 0 ? buttonUp : buttonDown, true);
-}
-
-// Also a press that has not gone down here yet, because the form is only being activated by it.
-bool SystemButtonBar::isHeldByMouse(const std::string& key) const {
-  if (arriving != none && button(arriving).key == key) return true;
-  POINT pointer = {};
-  if (!GetCursorPos(&pointer) || WindowFromPoint(pointer) != window()) return false;
-  ScreenToClient(window(), &pointer);
-  const int under = buttonAt(pointer);
-  return under != none && button(under).key == key && (pressed != none || isMousePressedOrAboutTo());
 }
 
 int SystemButtonBar::buttonCount() const {
@@ -204,7 +181,8 @@ void SystemButtonBar::doPart(int part) {
   if (canPress(part)) press(part);
 }
 
-void SystemButtonBar::press(int index) {
+void SystemButtonBar::press(int index, std::optional<std::uint32_t> began) {
+  told = began;
   const std::string key = button(index).key;  // the handler may show another layout
   form().raise(buttonPress, key);
 }

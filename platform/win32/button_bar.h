@@ -51,7 +51,7 @@ class SystemButtonBar final : public ControlOf<ButtonBar>, private ControlParts 
   void showLayout(const std::string& name) override;
   void setState(const std::string& key, int state, bool redraw) override;
   void setValue(const std::string& key, int value) override;
-  bool isHeldByMouse(const std::string& key) const override;
+  std::optional<std::uint32_t> pressBegan() const override { return told; }
 
   int buttonCount() const;
   const BarButton& button(int index) const;
@@ -60,7 +60,7 @@ class SystemButtonBar final : public ControlOf<ButtonBar>, private ControlParts 
   DWORD buttonStateFlags(int index) const;
   bool canPress(int index) const;  // usable, in sight and not waiting for a modal window
   int buttonAt(POINT point) const;
-  void press(int index);
+  void press(int index, std::optional<std::uint32_t> began = std::nullopt);
   void focusButton(int index);
 
   static constexpr int none = -1;
@@ -94,7 +94,6 @@ class SystemButtonBar final : public ControlOf<ButtonBar>, private ControlParts 
   void offerTooltip(POINT point);
   void onMouseMove(POINT point);
   void onMouseLeave();
-  void onActivatingPress();
   void onButtonDown(POINT point);
   void onButtonUp(POINT point);
   void cancelPress();
@@ -127,7 +126,8 @@ class SystemButtonBar final : public ControlOf<ButtonBar>, private ControlParts 
   int hot = none;
   int pressed = none;
   int focused = none;
-  int arriving = none;                    // where a press that activates the form first is about to go down
+  std::uint32_t heldSince = 0;
+  std::optional<std::uint32_t> told;
   PartsAccessible* accessible = nullptr;  // holds a reference while it is not null
 };
 

@@ -32,9 +32,6 @@ LRESULT SystemButtonBar::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_MOUSELEAVE:
       onMouseLeave();
       return 0;
-    case WM_MOUSEACTIVATE:
-      if (HIWORD(lParam) == WM_LBUTTONDOWN) onActivatingPress();
-      break;
     case WM_LBUTTONDOWN:
       onButtonDown(point);
       return 0;
@@ -96,7 +93,6 @@ void SystemButtonBar::onMouseMove(POINT point) {
   const bool answers = isUsable(under) && (pressed == none || pressed == under);
   setHot(answers ? under : none);
   if (!form().pointerMoved(window(), point)) return;
-  arriving = none;
   if (under != none) form().raise(buttonMouseMove, std::string(button(under).key));  // the handler may show others
 }
 
@@ -116,24 +112,15 @@ void SystemButtonBar::onMouseLeave() {
 // Nobody tells a window that is gone from under the pointer that the pointer left it.
 void SystemButtonBar::onHidden() {
   cancelPress();
-  arriving = none;
   onMouseLeave();
 }
 
-// The form is activated before the button goes down, and what loses the activation may ask where.
-void SystemButtonBar::onActivatingPress() {
-  const DWORD place = GetMessagePos();
-  POINT point = {GET_X_LPARAM(place), GET_Y_LPARAM(place)};
-  ScreenToClient(window(), &point);
-  arriving = buttonAt(point);
-}
-
 void SystemButtonBar::onButtonDown(POINT point) {
-  arriving = none;
   const int under = buttonAt(point);
   form().setShowsFocus(false);
   if (pressed != none || !isUsable(under)) return;
   pressed = under;
+  heldSince = static_cast<std::uint32_t>(GetMessageTime());
   hot = under;
   SetCapture(window());
   redraw(under);
@@ -146,7 +133,7 @@ void SystemButtonBar::onButtonUp(POINT point) {
   ReleaseCapture();
   redraw(held);
   announce(EVENT_OBJECT_STATECHANGE, held);
-  if (held == buttonAt(point)) press(held);
+  if (held == buttonAt(point)) press(held, heldSince);
 }
 
 void SystemButtonBar::cancelPress() {

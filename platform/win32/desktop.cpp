@@ -49,6 +49,8 @@ Point SystemDesktop::screenToClient(WindowHandle window, Point screen) {
 
 WindowHandle SystemDesktop::activeWindow() { return reinterpret_cast<WindowHandle>(GetActiveWindow()); }
 
+std::uint32_t SystemDesktop::clock() { return GetTickCount(); }
+
 void SystemDesktop::setForegroundWindow(WindowHandle window) {
   if (!applicationIsLosingFocus() && foregroundIsOurs()) SetForegroundWindow(handleOf(window));
 }

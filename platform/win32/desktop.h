@@ -12,6 +12,7 @@ class SystemDesktop : public Desktop {
   void setMousePointer(MousePointer pointer) override;
   Point screenToClient(WindowHandle window, Point screen) override;
   WindowHandle activeWindow() override;
+  std::uint32_t clock() override;
   void setForegroundWindow(WindowHandle window) override;
 };
 

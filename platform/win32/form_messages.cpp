@@ -7,6 +7,19 @@ namespace nerida {
 namespace {
 
 constexpr LPARAM nothingToRepaint = -1;  // of a window's frame, as the system wants to be told
+constexpr UINT_PTR focusTimer = 0x4E46;
+constexpr UINT focusPatience = 200;  // milliseconds
+constexpr DWORD justNow = 500;
+
+bool isFocusNobodys() {
+  const HWND foreground = GetForegroundWindow();
+  return foreground == nullptr || foreground == GetDesktopWindow();
+}
+
+bool hasActivePopupJustHidden() {
+  const std::optional<DWORD> since = sinceActivePopupHid();
+  return since && *since <= justNow;
+}
 
 }  // namespace
 
@@ -31,11 +44,29 @@ LRESULT FormWindow::runHook(UINT message, WPARAM wParam, LPARAM lParam) {
   const std::shared_ptr<const WindowProcedure> procedure = hooked;  // stays while it runs, even if taken off inside
   const Message received = {handle(), message, wParam, lParam};
   if (!procedure) return callPrevious(received);
-  if (message == messageActivateApplication && wParam == 0) {
-    const LosingFocus losing;
-    return (*procedure)(received);
-  }
-  return (*procedure)(received);
+  if (awaitsFocus(received)) return 0;
+  if (message != WM_TIMER || wParam != focusTimer) return callHook(*procedure, received);
+  KillTimer(hwnd, focusTimer);
+  if (const std::optional<Message> lost = std::exchange(heldBack, std::nullopt)) callHook(*procedure, *lost);
+  return 0;
+}
+
+LRESULT FormWindow::callHook(const WindowProcedure& procedure, const Message& message) {
+  if (message.number != messageActivateApplication || message.wParam != 0) return procedure(message);
+  const LosingFocus losing;
+  return procedure(message);
+}
+
+// A window manager that sees the active popup go may take the focus from the whole application, and give it to another
+// of its windows at once. Nobody has it meanwhile. The toolbar must not blink for that, nor the model stop and go: the
+// loss is told only if it lasts.
+bool FormWindow::awaitsFocus(const Message& message) {
+  if (message.number != messageActivateApplication) return false;
+  if (message.wParam != 0) return std::exchange(heldBack, std::nullopt).has_value();
+  if (!hasActivePopupJustHidden() || !isFocusNobodys()) return false;
+  heldBack = message;
+  SetTimer(hwnd, focusTimer, focusPatience, nullptr);
+  return true;
 }
 
 void FormWindow::hook(WindowProcedure procedure) {

@@ -116,6 +116,8 @@ class FormWindow final : public Window {
   LRESULT runHook(UINT message, WPARAM wParam, LPARAM lParam);
   void paintWithControls();
   void drawControls(HDC target);
+  LRESULT callHook(const WindowProcedure& procedure, const Message& message);
+  bool awaitsFocus(const Message& message);
   void paintOutline();
   void onActivate(bool active);
   void rememberFocus();
@@ -149,7 +151,8 @@ class FormWindow final : public Window {
 
   std::shared_ptr<const WindowProcedure> hooked;
   WNDPROC behindHook = nullptr;
-  bool inChain = false;  // of the window's procedures, hooked or not
+  bool inChain = false;             // of the window's procedures, hooked or not
+  std::optional<Message> heldBack;  // that the focus is lost: see awaitsFocus
 
   bool modal = false;
   std::vector<HWND> disabledForModal;

@@ -8,6 +8,7 @@ namespace {
 
 std::atomic<long> locks = 0;
 int losingFocusDepth = 0;  // user-interface thread only
+std::optional<DWORD> activePopupHidAt;
 
 }  // namespace
 
@@ -23,6 +24,11 @@ void unlockModule() { --locks; }
 long moduleLocks() { return locks; }
 
 bool applicationIsLosingFocus() { return losingFocusDepth > 0; }
+void noteActivePopupHides() { activePopupHidAt = GetTickCount(); }
+std::optional<DWORD> sinceActivePopupHid() {
+  if (!activePopupHidAt) return std::nullopt;
+  return GetTickCount() - *activePopupHidAt;
+}
 LosingFocus::LosingFocus() { ++losingFocusDepth; }
 LosingFocus::~LosingFocus() { --losingFocusDepth; }
 

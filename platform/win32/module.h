@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <optional>
+
 namespace nerida {
 
 // The module (DLL or program) that this code was linked into.
@@ -23,6 +25,10 @@ class ModuleLock {
 // True while some window procedure is inside the message that tells it that the application loses the focus. In that
 // time the system still lets us take the foreground back, which the user does not want.
 bool applicationIsLosingFocus();
+
+// The active window, a popup, is about to be hidden; and how many milliseconds ago that was.
+void noteActivePopupHides();
+std::optional<DWORD> sinceActivePopupHid();
 
 class LosingFocus {
  public:

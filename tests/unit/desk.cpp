@@ -76,10 +76,11 @@ headless::FormWindow& Desk::form(const std::string& name) const {
 }
 
 void Desk::pressWithMouse(headless::Bar& target, const std::string& key) {
-  target.heldKey = key;
+  platform.screen.milliseconds += 200;
+  target.clickedAt = platform.screen.milliseconds;
   toolbar().userActivates();
-  target.heldKey.clear();
   target.press(key);
+  target.clickedAt.reset();
 }
 
 void Desk::showBeside(Popup& popup) {

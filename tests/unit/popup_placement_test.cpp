@@ -64,6 +64,30 @@ TEST_F(PopupPlacement, AStylePopupIsShiftedLeftByWhatWouldRunOffTheRight) {
   EXPECT_EQ(openStyle(2, "SurfaceColorFill", "frmSurfaceColors").x, left - 7);
 }
 
+TEST_F(PopupPlacement, AStylePopupOnAScreenToTheRightComesBackToTheFirstOne) {
+  placeAt(1500, 200);
+  const Size popup = library.lineColors.sizeInPixels();
+  EXPECT_EQ(openStyle(1, "LineColorFill", "frmLineColors").x, platform.screen.size.width - popup.width);
+}
+
+TEST_F(PopupPlacement, AStylePopupOnAScreenBelowGoesAboveItsButton) {
+  placeAt(100, 900);
+  const Size popup = library.lineColors.sizeInPixels();
+  EXPECT_EQ(openStyle(1, "LineColorFill", "frmLineColors").y, 900 + 22 + barCorner("barLS", 1).y - popup.height);
+}
+
+TEST_F(PopupPlacement, TheThicknessMenuFollowsTheSameRule) {
+  placeAt(100, 200);
+  const Point corner = barCorner("barLS", 0);
+  EXPECT_EQ(openStyle(0, "LineThickness", "frmLineThicknessMenu"),
+            (Point{100 + 3 + corner.x, 200 + 22 + corner.y + 25}));
+  library.lineThicknessMenu.HideSelf();
+  const Size popup = library.lineThicknessMenu.sizeInPixels();
+  platform.screen.size = {100 + 3 + corner.x + popup.width - 5, 200 + 22 + corner.y + 25 + popup.height - 1};
+  EXPECT_EQ(openStyle(0, "LineThickness", "frmLineThicknessMenu"),
+            (Point{100 + 3 + corner.x - 5, 200 + 22 + corner.y - popup.height}));
+}
+
 TEST_F(PopupPlacement, LightingHangsALittleToTheLeftOfItsBar) {
   placeAt(100, 200);
   const Point corner = barCorner("barWorld", 0);

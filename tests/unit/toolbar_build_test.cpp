@@ -172,6 +172,20 @@ TEST_F(ToolbarBuild, NamesTheFieldsByTheirTooltips) {
   EXPECT_EQ(tooltips["txtNudgeAmt"], "Enter Nudge Amount");
 }
 
+TEST_F(ToolbarBuild, NamesEverySwatchLikeTheButtonsThatItReplaces) {
+  for (const ControlLayout& swatch : toolbar().layout.controls) {
+    if (swatch.kind != ControlKind::pictureBox) continue;
+    const auto isReplaced = [&](const ControlLayout& other) {
+      return other.kind == ControlKind::buttonBar && other.bounds.left == swatch.bounds.left &&
+             other.bounds.top == swatch.bounds.top;
+    };
+    const auto bar = std::ranges::find_if(toolbar().layout.controls, isReplaced);
+    ASSERT_NE(bar, toolbar().layout.controls.end()) << swatch.name;
+    EXPECT_STREQ(swatch.tooltip, bar->tooltip) << swatch.name;
+    EXPECT_STRNE(swatch.tooltip, "") << swatch.name;
+  }
+}
+
 // Everything that a glyph draws, as text.
 class SketchPad : public Canvas {
  public:

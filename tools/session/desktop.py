@@ -23,6 +23,15 @@ def click(point, button=1, count=1):
     _run("xdotool", "mousemove", *point, "sleep", "0.04", "click", "--repeat", count, "--delay", 60, button)
 
 
+def screen_size():
+    text = subprocess.run(["xdotool", "getdisplaygeometry"], check=True, capture_output=True, text=True).stdout
+    return tuple(int(number) for number in text.split())
+
+
+def pause(seconds):
+    time.sleep(seconds)
+
+
 def press_mouse(point):
     _run("xdotool", "mousemove", *point, "sleep", "0.04", "mousedown", 1)
 
