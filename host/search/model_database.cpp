@@ -1,6 +1,6 @@
 #include "host/search/model_database.h"
 
-#include <optional>
+#include <algorithm>
 
 #include "host/search/database.h"
 #include "host/search/model_writer.h"
