@@ -23,7 +23,7 @@ class Canvas {
   // The same in a colour of the program's own.
   virtual void line(Twips x1, Twips y1, Twips x2, Twips y2, Rgb color) = 0;
   virtual void filledBox(Twips x1, Twips y1, Twips x2, Twips y2, Rgb color) = 0;
-  // The system's dotted focus rectangle.
+  // The system's dotted focus rectangle, drawn only while the control's form shows where the keyboard is.
   virtual void focusBox(Twips x1, Twips y1, Twips x2, Twips y2) = 0;
 };
 

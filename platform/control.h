@@ -46,12 +46,14 @@ class Canvas;
 enum class Key { left, right, up, down, choose };  // choose: Enter or Space
 
 // A part of a drawn control that a person points at, reads and presses like a control of its own: a cell of a grid.
-// Its name is its accessible name and its tooltip.
+// Its name is its accessible name and its tooltip. A control whose only part can be pressed is a button itself.
 struct DrawnPart {
   std::string name;
   Bounds place;  // twips, from the control's top-left corner
   bool pressed = false;
   bool focused = false;
+  bool hot = false;        // the pointer is over it
+  bool captioned = false;  // its name is written beside it: it needs no tooltip
 };
 
 // A control that its form draws and whose mouse it watches. Places are twips from the control's top-left corner. It
@@ -60,6 +62,8 @@ class PictureBox : public Control {
  public:
   virtual void repaint() = 0;
   virtual void setFocus() = 0;
+  // Whether the Tab key stops here, as it does unless told otherwise.
+  virtual void setTabStop(bool stops) = 0;
   virtual void setTooltip(const std::string& text) = 0;  // of the control as a whole
 
   std::function<void(Canvas&)> paint;
@@ -81,9 +85,11 @@ class Label : public Control {
  public:
   virtual void setCaption(const std::string& text) = 0;
 
+  // A label with one of these belongs to the drawn control that it captions; assistive tools are told of that one.
   std::function<void()> mouseMove;
   std::function<void()> mouseDown;
-  std::function<void()> mouseUp;  // a click; also raised when an assistive tool presses the label
+  std::function<void()> mouseUp;  // wherever the left button came up again
+  std::function<void()> click;    // after it, when that was on the label
 };
 
 }  // namespace nerida

@@ -40,6 +40,9 @@ class Window {
   virtual Size sizeInPixels() const = 0;     // of the whole window
   virtual Point position() const = 0;        // screen pixels of the whole window's top-left corner
   virtual Point clientOrigin() const = 0;    // screen pixels of the client area's top-left corner
+  // Whether the window shows where the keyboard is: the user moved there by keyboard, here or in the window of ours
+  // that was active before, and has not pressed with the mouse since.
+  virtual bool showsFocus() const = 0;
 
   // Place topmost, show and activate; the size stays. Without a point the place stays too.
   virtual void showTopmostAt(Point topLeft) = 0;

@@ -37,6 +37,7 @@ void ColorPalette::ShowSelf(std::int16_t x, std::int16_t y) {
     preselect();
     if (!toolbar.stillThere()) return;
     loadedWindow().showTopmostAt({x, y});
+    keysInUse = loadedWindow().showsFocus();
     closing = false;
     markShown(true);
   });
@@ -93,7 +94,6 @@ void ColorPalette::chooseHovered() {
   if (hovered.column < 0 || hovered.row >= moreColorsRow) return;
   selected = indexOfCell(hovered);
   moveFrame(selected);
-  styleColorShown = false;
   repaintEntry(styleRow);
   (model.*role.setColor)(colorOf(selected));
   loadedWindow();
@@ -109,9 +109,9 @@ void ColorPalette::chooseCell(Cell cell) {
 void ColorPalette::SetStyleDefault() {
   selected = -1;
   hideFrame();
-  styleColorShown = true;
   repaintEntry(styleRow);
   (model.*role.restore)();
+  styleColorShown = true;
 }
 
 void ColorPalette::chooseStyleDefault() {

@@ -90,6 +90,7 @@ class ColorPalette : public Popup {
   void connectMoreColors();
   void connectStyleDefault();
   void pnlColor_MouseMove(Twips x, Twips y);
+  void pnlColor_MouseDown(Twips x, Twips y);
   bool pnlColor_KeyDown(Key key);
   void enterEntry(std::int16_t row);
   void pressMoreColors(bool pressed);
@@ -100,7 +101,7 @@ class ColorPalette : public Popup {
   void repaintEntry(std::int16_t row);
   Cell keyboardCell() const;
   std::vector<DrawnPart> cells() const;
-  std::vector<DrawnPart> entryPart(const char* name, Focus place, bool pressed) const;
+  std::vector<DrawnPart> entryPart(const char* name, std::int16_t row, bool pressed) const;
   void paintPanel(Canvas& canvas) const;
   EntryLook lookOf(std::int16_t row) const;
 

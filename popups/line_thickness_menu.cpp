@@ -55,6 +55,7 @@ void frmLineThicknessMenu::connectEvents() {
   barThick().lostFocus = leave;
   pnlThickness.lostFocus = leave;
   pnlThickness.keyDown = [this](Key key) { return key != Key::choose && enterBar(); };
+  pnlThickness.setTabStop(false);
   loadedWindow().closeRequested = [this] { ignoringErrors([this] { HideSelf(); }); };
 }
 
@@ -79,7 +80,9 @@ void frmLineThicknessMenu::ShowSelf(std::int16_t x, std::int16_t y) {
   if (!isVisible()) return;
   ignoringErrors([this] { showCurrentThickness(); });
   // Also after a failure: the popup closes when its panel loses the focus, so the panel must have it.
-  if (isVisible()) loadedWindow().pictureBox("pnlThickness").setFocus();
+  if (!isVisible()) return;
+  loadedWindow().pictureBox("pnlThickness").setFocus();
+  if (loadedWindow().showsFocus()) enterBar();
 }
 
 void frmLineThicknessMenu::showCurrentThickness() {

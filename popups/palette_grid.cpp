@@ -1,5 +1,7 @@
 #include "popups/palette_grid.h"
 
+#include <algorithm>
+
 namespace nerida {
 namespace {
 
@@ -10,6 +12,14 @@ constexpr std::int32_t floorDivide(std::int32_t value, std::int32_t by) {
 }
 
 }  // namespace
+
+Cell cellBeside(Cell from, Key arrow) {
+  const auto step = [arrow](Key back, Key on) { return arrow == on ? 1 : arrow == back ? -1 : 0; };
+  const int column = from.column + step(Key::left, Key::right);
+  const int row = from.row + step(Key::up, Key::down);
+  return {static_cast<std::int16_t>(std::clamp(column, 0, gridColumns - 1)),
+          static_cast<std::int16_t>(std::clamp(row, 0, int{recentRow}))};
+}
 
 std::optional<Cell> cellAt(Twips x, Twips y) {
   const std::int32_t right = x.value - gridLeft;

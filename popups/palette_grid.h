@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "platform/canvas.h"
+#include "platform/control.h"
 #include "platform/units.h"
 #include "popups/color_table.h"
 
@@ -37,6 +38,9 @@ constexpr Cell cellOfIndex(int index) {
 constexpr std::int16_t indexOfCell(Cell cell) {
   return static_cast<std::int16_t>(cell.row * gridColumns + cell.column);
 }
+
+// Where an arrow key leads from a cell; it stops at the edges. Other keys lead nowhere else.
+Cell cellBeside(Cell from, Key arrow);
 
 // The cell at a point of the panel. In the lower part of the recent row the row is 6, as its cells are drawn lower
 // than a sixth row of the grid would be. Nothing outside the cells and in the band between the two groups.

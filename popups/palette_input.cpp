@@ -1,5 +1,6 @@
 // What the mouse and the keyboard do to a palette, and how it is drawn.
 #include <algorithm>
+#include <utility>
 
 #include "popups/color_palette.h"
 
@@ -18,7 +19,7 @@ void ColorPalette::connectGrid() {
   PictureBox& panel = picture("pnlColor");
   panel.paint = [this](Canvas& canvas) { paintPanel(canvas); };
   panel.mouseMove = [this](Twips x, Twips y) { handle(messages, [&] { pnlColor_MouseMove(x, y); }); };
-  panel.mouseDown = [this](Twips, Twips) { handle(messages, [this] { chooseHovered(); }); };
+  panel.mouseDown = [this](Twips x, Twips y) { handle(messages, [&] { pnlColor_MouseDown(x, y); }); };
   panel.keyDown = [this](Key key) { return pnlColor_KeyDown(key); };
   panel.parts = [this] { return cells(); };
   panel.pressPart = [this](std::size_t part) {
@@ -41,7 +42,7 @@ void ColorPalette::connectMoreColors() {
     if (key == Key::choose) MoreColors();
     return key == Key::choose;
   };
-  box.parts = [this] { return entryPart("More Colors", Focus::moreColors, moreColorsPressed); };
+  box.parts = [this] { return entryPart("More Colors", moreColorsRow, moreColorsPressed); };
   box.pressPart = [this](std::size_t) { MoreColors(); };
   connectFocus(box, Focus::moreColors);
 }
@@ -51,7 +52,7 @@ void ColorPalette::connectStyleDefault() {
   Label& label = loadedWindow().label("lblLSColor");
   const auto choose = [this] { handle(messages, [this] { chooseStyleDefault(); }); };
   label.mouseMove = [this] { enterEntry(styleRow); };
-  label.mouseUp = choose;
+  label.click = choose;
   box.paint = [this](Canvas& canvas) { paintStyleEntry(canvas, lookOf(styleRow), styleColorShown); };
   box.mouseMove = [this](Twips, Twips) { enterEntry(styleRow); };
   box.mouseDown = [choose](Twips, Twips) { choose(); };
@@ -59,13 +60,13 @@ void ColorPalette::connectStyleDefault() {
     if (key == Key::choose) choose();
     return key == Key::choose;
   };
-  box.parts = [this] { return entryPart("LookStyle Default", Focus::styleDefault, styleColorShown); };
+  box.parts = [this] { return entryPart("LookStyle Default", styleRow, styleColorShown); };
   box.pressPart = [choose](std::size_t) { choose(); };
   connectFocus(box, Focus::styleDefault);
 }
 
 void ColorPalette::pnlColor_MouseMove(Twips x, Twips y) {
-  keysInUse = false;
+  if (std::exchange(keysInUse, false)) picture("pnlColor").repaint();
   repaintEntry(previouslyHovered.row);
   const std::optional<Cell> under = cellAt(x, y);
   if (!under) {
@@ -77,6 +78,12 @@ void ColorPalette::pnlColor_MouseMove(Twips x, Twips y) {
   hovered = {under->column, std::min(under->row, recentRow)};
   setFrame(hovered);
   previouslyHovered = hovered;
+}
+
+// The mouse is used where the keyboard was: what counts then is where the pointer is.
+void ColorPalette::pnlColor_MouseDown(Twips x, Twips y) {
+  if (keysInUse) pnlColor_MouseMove(x, y);
+  chooseHovered();
 }
 
 // The row alone tells that an entry is hovered, so no cell counts as the one under the pointer.
@@ -106,27 +113,17 @@ void ColorPalette::repaintEntry(std::int16_t row) {
   if (row == styleRow) picture("picLSSwatch").repaint();
 }
 
-// The first arrow key shows where the keyboard is, the next ones move. The place of the pointer is forgotten: the mouse
-// takes over again as soon as it moves.
+// Where nothing showed yet where the keyboard is, the first key shows it. The place of the pointer is forgotten: the
+// mouse takes over again as soon as it moves.
 bool ColorPalette::pnlColor_KeyDown(Key key) {
   handle(messages, [&] {
-    keysInUse = true;
-    if (key == Key::choose) {
-      chooseHovered();
-      return;
-    }
-    Cell cell = keyboardCell();
-    if (hovered == cell) {
-      const auto step = [](bool less, bool more) { return (more ? 1 : 0) - (less ? 1 : 0); };
-      const int column = cell.column + step(key == Key::left, key == Key::right);
-      const int row = cell.row + step(key == Key::up, key == Key::down);
-      cell = {static_cast<std::int16_t>(std::clamp(column, 0, gridColumns - 1)),
-              static_cast<std::int16_t>(std::clamp(row, 0, int{recentRow}))};
-    }
+    const bool wasVisible = std::exchange(keysInUse, true) || hovered.column >= 0;
+    const Cell cell = wasVisible ? cellBeside(keyboardCell(), key) : keyboardCell();
     repaintEntry(previouslyHovered.row);
     hovered = cell;
     previouslyHovered = {};
     setFrame(cell);
+    if (wasVisible && key == Key::choose) chooseHovered();
   });
   return true;
 }
@@ -141,7 +138,7 @@ void ColorPalette::connectFocus(PictureBox& box, Focus place) {
   box.lostFocus = [this] { focusLeft(); };
 }
 
-// Only the keyboard brings the focus to an entry.
+// Only the keyboard brings the focus to an entry, where no cell is its place.
 void ColorPalette::focusCame(Focus place) {
   focus = place;
   if (place != Focus::grid) keysInUse = true;
@@ -161,15 +158,24 @@ std::vector<DrawnPart> ColorPalette::cells() const {
     const Cell cell = cellOfIndex(i);
     const bool isRecent = i >= namedColorCount;
     const bool hasFocus = focus == Focus::grid && cell == keyboardCell();
-    parts.push_back({isRecent ? "Recent color " + std::to_string(i - namedColorCount + 1)
-                              : namedColors[static_cast<std::size_t>(i)].name,
-                     placeOfCell(cell), !styleColorShown && i == selected, hasFocus});
+    parts.push_back({.name = isRecent ? "Recent color " + std::to_string(i - namedColorCount + 1)
+                                      : namedColors[static_cast<std::size_t>(i)].name,
+                     .place = placeOfCell(cell),
+                     .pressed = !styleColorShown && i == selected,
+                     .focused = hasFocus,
+                     .hot = cell == previouslyHovered});
   }
   return parts;
 }
 
-std::vector<DrawnPart> ColorPalette::entryPart(const char* name, Focus place, bool pressed) const {
-  return {{name, {{0}, {0}, {paletteEntryWidth}, {paletteEntryHeight}}, pressed, focus == place}};
+std::vector<DrawnPart> ColorPalette::entryPart(const char* name, std::int16_t row, bool pressed) const {
+  const EntryLook look = lookOf(row);
+  return {{.name = name,
+           .place = {{0}, {0}, {paletteEntryWidth}, {paletteEntryHeight}},
+           .pressed = pressed,
+           .focused = look.focused,
+           .hot = look.hovered,
+           .captioned = true}};
 }
 
 EntryLook ColorPalette::lookOf(std::int16_t row) const {

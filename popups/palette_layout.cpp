@@ -1,4 +1,5 @@
-// How the three palettes look alike. The entries lie on the panel: controls that come first are in front.
+// How the three palettes look alike. The entries lie on the panel: controls that come first are in front. Tab goes
+// from the grid down to More Colors, then round to the top.
 #include <array>
 
 #include "popups/palette_grid.h"
@@ -19,14 +20,14 @@ constexpr std::int32_t labelWidth = 1740;
 constexpr std::int32_t labelHeight = 210;
 
 constexpr std::array controls{
-    ControlLayout{"lblLSColor", 0, ControlKind::label, at(labelLeft, styleTop + labelInset, labelWidth, labelHeight),
-                  "LookStyle Default"},
-    ControlLayout{"picLSSwatch", 0, ControlKind::pictureBox,
-                  at(gridLeft, styleTop, paletteEntryWidth, paletteEntryHeight)},
     ControlLayout{"lblMoreColors", 0, ControlKind::label, at(labelLeft, moreTop + labelInset, labelWidth, labelHeight),
                   "More Colors"},
     ControlLayout{"picMoreColors", 0, ControlKind::pictureBox,
                   at(gridLeft, moreTop, paletteEntryWidth, paletteEntryHeight)},
+    ControlLayout{"lblLSColor", 0, ControlKind::label, at(labelLeft, styleTop + labelInset, labelWidth, labelHeight),
+                  "LookStyle Default"},
+    ControlLayout{"picLSSwatch", 0, ControlKind::pictureBox,
+                  at(gridLeft, styleTop, paletteEntryWidth, paletteEntryHeight)},
     ControlLayout{"pnlColor", 0, ControlKind::pictureBox, at(0, 0, 2400, 2805), "", "Colors"},
 };
 

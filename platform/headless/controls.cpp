@@ -49,7 +49,7 @@ void Text::enter(const std::string& typed) {
 }
 
 std::vector<std::string> Picture::draw() const {
-  RecordingCanvas canvas;
+  RecordingCanvas canvas(focus.isShown);
   if (paint) paint(canvas);
   return canvas.lines;
 }
@@ -71,6 +71,7 @@ void Picture::movePointer(Twips x, Twips y) {
 }
 
 void Picture::pressAt(Twips x, Twips y) {
+  focus.isShown = false;
   if (mouseDown) mouseDown(x, y);
 }
 
@@ -78,13 +79,21 @@ void Picture::releaseAt(Twips x, Twips y) {
   if (mouseUp) mouseUp(x, y);
 }
 
-bool Picture::key(Key pressed) { return keyDown && keyDown(pressed); }
+bool Picture::key(Key pressed) {
+  focus.isShown = true;
+  return keyDown && keyDown(pressed);
+}
 
 void Caption::movePointer() const {
   if (mouseMove) mouseMove();
 }
 
 void Caption::click() const {
+  pressAndLeave();
+  if (Label::click) Label::click();
+}
+
+void Caption::pressAndLeave() const {
   if (mouseDown) mouseDown();
   if (mouseUp) mouseUp();
 }

@@ -64,9 +64,10 @@ class Text : public Basic<TextBox> {
   std::string content;
 };
 
-// Which picture box has the keyboard focus.
+// Which picture box has the keyboard focus, and whether the windows show it.
 struct KeyboardFocus {
   class Picture* holder = nullptr;
+  bool isShown = false;
 };
 
 class Picture : public Basic<PictureBox> {
@@ -75,6 +76,7 @@ class Picture : public Basic<PictureBox> {
       : Basic(transcript, std::move(name), bounds), focus(focus) {}
   void repaint() override { note("repaint"); }
   void setFocus() override;
+  void setTabStop(bool stops) override { isTabStop = stops; }
   void setTooltip(const std::string& text) override { tooltip = text; }
 
   // The user's mouse and keyboard, and a focus that goes elsewhere.
@@ -87,6 +89,7 @@ class Picture : public Basic<PictureBox> {
   std::vector<std::string> draw() const;
 
   std::string tooltip;
+  bool isTabStop = true;
 
  private:
   KeyboardFocus& focus;
@@ -98,7 +101,8 @@ class Caption : public Basic<Label> {
   void setCaption(const std::string& value) override;
 
   void movePointer() const;
-  void click() const;  // down and up
+  void click() const;          // down and up
+  void pressAndLeave() const;  // down, and up elsewhere
 
   std::string caption;
 };

@@ -43,7 +43,7 @@ void RecordingCanvas::filledBox(Twips x1, Twips y1, Twips x2, Twips y2, Rgb colo
 }
 
 void RecordingCanvas::focusBox(Twips x1, Twips y1, Twips x2, Twips y2) {
-  lines.push_back(placed("focus", x1, y1, x2, y2));
+  if (drawsFocus) lines.push_back(placed("focus", x1, y1, x2, y2));
 }
 
 }  // namespace nerida::headless

@@ -101,6 +101,8 @@ void FormWindow::setVisible(bool value) {
   }
 }
 
+bool FormWindow::showsFocus() const { return windows.focus.isShown; }
+
 void FormWindow::showTopmostAt(Point point) {
   topLeft = point;
   note("show topmost at " + written(point));

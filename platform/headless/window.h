@@ -29,6 +29,7 @@ class FormWindow : public Window {
   Size sizeInPixels() const override;
   Point position() const override { return topLeft; }
   Point clientOrigin() const override { return {topLeft.x + 3, topLeft.y + 22}; }
+  bool showsFocus() const override;
   void showTopmostAt(Point point) override;
   void showTopmost() override;
   void hide() override;

@@ -8,7 +8,8 @@ namespace {
 // Forwards everything but the name to the system's object.
 class NamedAccessible final : public AccessibleBase {
  public:
-  NamedAccessible(IAccessible* wrapped, std::wstring given) : standard(wrapped), name(std::move(given)) {}
+  NamedAccessible(IAccessible* wrapped, std::wstring given, LONG flags)
+      : standard(wrapped), name(std::move(given)), moreFlags(flags) {}
 
   STDMETHODIMP get_accName(VARIANT child, BSTR* text) override {
     if (child.vt != VT_I4 || child.lVal != CHILDID_SELF) return standard->get_accName(child, text);
@@ -27,7 +28,11 @@ class NamedAccessible final : public AccessibleBase {
     return standard->get_accDescription(child, text);
   }
   STDMETHODIMP get_accRole(VARIANT child, VARIANT* role) override { return standard->get_accRole(child, role); }
-  STDMETHODIMP get_accState(VARIANT child, VARIANT* state) override { return standard->get_accState(child, state); }
+  STDMETHODIMP get_accState(VARIANT child, VARIANT* state) override {
+    const HRESULT status = standard->get_accState(child, state);
+    if (SUCCEEDED(status) && state->vt == VT_I4) state->lVal |= moreFlags;
+    return status;
+  }
   STDMETHODIMP get_accHelp(VARIANT child, BSTR* text) override { return standard->get_accHelp(child, text); }
   STDMETHODIMP get_accHelpTopic(BSTR* file, VARIANT child, LONG* topic) override {
     return standard->get_accHelpTopic(file, child, topic);
@@ -59,20 +64,29 @@ class NamedAccessible final : public AccessibleBase {
 
   IAccessible* standard;  // one reference
   std::wstring name;
+  LONG moreFlags;  // of its state
 };
 
-}  // namespace
-
-std::optional<LRESULT> answerWithName(HWND control, const std::wstring& name, WPARAM wParam, LPARAM lParam) {
+std::optional<LRESULT> answer(HWND control, const std::wstring& name, LONG flags, WPARAM wParam, LPARAM lParam) {
   if (static_cast<LONG>(lParam) != OBJID_CLIENT) return std::nullopt;
   IAccessible* standard = nullptr;
   const HRESULT made =
       CreateStdAccessibleObject(control, OBJID_CLIENT, IID_IAccessible, reinterpret_cast<void**>(&standard));
   if (FAILED(made) || standard == nullptr) return std::nullopt;
-  auto* named = new NamedAccessible(standard, name);
-  const LRESULT answer = LresultFromObject(IID_IAccessible, wParam, static_cast<IAccessible*>(named));
+  auto* named = new NamedAccessible(standard, name, flags);
+  const LRESULT given = LresultFromObject(IID_IAccessible, wParam, static_cast<IAccessible*>(named));
   named->Release();
-  return answer;
+  return given;
+}
+
+}  // namespace
+
+std::optional<LRESULT> answerWithName(HWND control, const std::wstring& name, WPARAM wParam, LPARAM lParam) {
+  return answer(control, name, 0, wParam, lParam);
+}
+
+std::optional<LRESULT> answerAsCaption(HWND control, WPARAM wParam, LPARAM lParam) {
+  return answer(control, L"", STATE_SYSTEM_INVISIBLE, wParam, lParam);
 }
 
 }  // namespace nerida

@@ -11,4 +11,7 @@ namespace nerida {
 // the message asks for something else.
 std::optional<LRESULT> answerWithName(HWND control, const std::wstring& name, WPARAM wParam, LPARAM lParam);
 
+// The same for a caption of another control, which has the name: this one is nobody's to stop at.
+std::optional<LRESULT> answerAsCaption(HWND control, WPARAM wParam, LPARAM lParam);
+
 }  // namespace nerida

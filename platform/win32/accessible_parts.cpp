@@ -48,8 +48,8 @@ void PartsAccessible::disconnect() {
 
 HRESULT PartsAccessible::resolve(const VARIANT& child, int& index) const {
   if (control == nullptr) return CO_E_OBJNOTCONNECTED;
-  if (child.vt != VT_I4 || child.lVal < CHILDID_SELF || child.lVal > parts.partCount()) return E_INVALIDARG;
-  index = static_cast<int>(child.lVal) - 1;
+  if (child.vt != VT_I4 || child.lVal < CHILDID_SELF || child.lVal > childCount()) return E_INVALIDARG;
+  index = parts.isOneButton() ? 0 : static_cast<int>(child.lVal) - 1;
   return S_OK;
 }
 
@@ -64,7 +64,7 @@ STDMETHODIMP PartsAccessible::get_accParent(IDispatch** parent) {
 STDMETHODIMP PartsAccessible::get_accChildCount(LONG* count) {
   if (count == nullptr) return E_POINTER;
   if (control == nullptr) return CO_E_OBJNOTCONNECTED;
-  *count = parts.partCount();
+  *count = childCount();
   return S_OK;
 }
 
@@ -123,7 +123,7 @@ STDMETHODIMP PartsAccessible::get_accFocus(VARIANT* child) {
   VariantInit(child);
   if (control == nullptr) return CO_E_OBJNOTCONNECTED;
   if (GetFocus() != control->window()) return S_FALSE;
-  *child = number(parts.focusedPart() + 1);
+  *child = number(childOf(parts.focusedPart()));
   return S_OK;
 }
 
@@ -175,13 +175,13 @@ STDMETHODIMP PartsAccessible::accNavigate(LONG direction, VARIANT start, VARIANT
   int index = wholeControl;
   const HRESULT status = resolve(start, index);
   if (FAILED(status)) return status;
-  const bool inside = index != wholeControl;
+  const bool inside = start.lVal != CHILDID_SELF;
   LONG target = 0;
   if (direction == NAVDIR_FIRSTCHILD && !inside) target = 1;
-  if (direction == NAVDIR_LASTCHILD && !inside) target = parts.partCount();
+  if (direction == NAVDIR_LASTCHILD && !inside) target = childCount();
   if ((direction == NAVDIR_NEXT || direction == NAVDIR_RIGHT) && inside) target = index + 2;
   if ((direction == NAVDIR_PREVIOUS || direction == NAVDIR_LEFT) && inside) target = index;
-  if (target < 1 || target > parts.partCount()) return S_FALSE;
+  if (target < 1 || target > childCount()) return S_FALSE;
   *end = number(target);
   return S_OK;
 }
@@ -195,7 +195,7 @@ STDMETHODIMP PartsAccessible::accHitTest(LONG left, LONG top, VARIANT* child) {
   RECT client = {};
   GetClientRect(control->window(), &client);
   if (!PtInRect(&client, point)) return S_FALSE;
-  *child = number(parts.partAt(point) + 1);
+  *child = number(childOf(parts.partAt(point)));
   return S_OK;
 }
 

@@ -16,6 +16,8 @@ class ControlParts {
   virtual LONG wholeRole() const = 0;
   virtual DWORD wholeStateFlags() const = 0;
   virtual int partCount() const = 0;
+  // A control whose only part is a button is that button itself, without children.
+  virtual bool isOneButton() const { return false; }
   virtual std::wstring partName(int part) const = 0;
   virtual DWORD partStateFlags(int part) const = 0;
   virtual RECT partArea(int part) const = 0;  // in the control's window
@@ -58,6 +60,9 @@ class PartsAccessible final : public AccessibleBase {
   STDMETHODIMP put_accValue(VARIANT child, BSTR value) override;
 
  private:
+  int childCount() const { return parts.isOneButton() ? 0 : parts.partCount(); }
+  // The child identifier of a part, -1 being none.
+  LONG childOf(int part) const { return parts.isOneButton() ? CHILDID_SELF : part + 1; }
   // Whether a child identifier means the control itself (-1) or one of its parts (their index).
   HRESULT resolve(const VARIANT& child, int& index) const;
 

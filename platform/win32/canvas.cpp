@@ -67,6 +67,7 @@ void SystemCanvas::filledBox(Twips x1, Twips y1, Twips x2, Twips y2, Rgb color) 
 
 // It inverts what is below it, in colours that the context is told here, and must have done so before more is drawn.
 void SystemCanvas::focusBox(Twips x1, Twips y1, Twips x2, Twips y2) {
+  if (!drawsFocus) return;
   const Box box = pixels(x1, y1, x2, y2);
   const RECT outline = {box.left, box.top, box.right, box.bottom};
   SetTextColor(dc, RGB(0, 0, 0));

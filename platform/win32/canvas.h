@@ -13,8 +13,12 @@ namespace nerida {
 class SystemCanvas final : public Canvas {
  public:
   // The drawing's upper edge lies `above` pixels above the buffer's.
-  SystemCanvas(BackBuffer& buffer, SIZE size, const Scale& scale, int above)
-      : dc(buffer.context()), target(buffer.canvas(size.cx, size.cy)), scale(scale), above(above) {}
+  SystemCanvas(BackBuffer& buffer, SIZE size, const Scale& scale, int above, bool drawsFocus)
+      : dc(buffer.context()),
+        target(buffer.canvas(size.cx, size.cy)),
+        scale(scale),
+        above(above),
+        drawsFocus(drawsFocus) {}
 
   // All of it in the colour of faces.
   void clear();
@@ -36,6 +40,7 @@ class SystemCanvas final : public Canvas {
   PixelCanvas target;
   const Scale& scale;
   int above;
+  bool drawsFocus;
 };
 
 }  // namespace nerida

@@ -27,7 +27,7 @@ void FormWindow::moveFocus(const NativeControl* from, bool backward) {
   }
   for (std::size_t step = 0; step < count; ++step) {
     position = (position + (backward ? count - 1 : 1)) % count;
-    if (!controls[position]->takesFocus()) continue;
+    if (!controls[position]->isTabStop()) continue;
     SetFocus(controls[position]->window());
     return;
   }

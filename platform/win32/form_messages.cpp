@@ -40,6 +40,14 @@ LRESULT CALLBACK hookProcedure(HWND window, UINT message, WPARAM wParam, LPARAM 
   return form->dispatch([&] { return form->runHook(message, wParam, lParam); });
 }
 
+// Another form of this module.
+FormWindow* FormWindow::formOf(HWND window) {
+  if (window == nullptr || GetWindowThreadProcessId(window, nullptr) != GetCurrentThreadId()) return nullptr;
+  const bool isOurs = reinterpret_cast<HINSTANCE>(GetWindowLongPtrW(window, GWLP_HINSTANCE)) == moduleInstance() &&
+                      GetClassLongPtrW(window, GCLP_WNDPROC) == reinterpret_cast<ULONG_PTR>(formProcedure);
+  return isOurs ? reinterpret_cast<FormWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA)) : nullptr;
+}
+
 LRESULT FormWindow::runHook(UINT message, WPARAM wParam, LPARAM lParam) {
   const std::shared_ptr<const WindowProcedure> procedure = hooked;  // stays while it runs, even if taken off inside
   const Message received = {handle(), message, wParam, lParam};
@@ -127,7 +135,7 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (NativeControl* control = controlOf(reinterpret_cast<HWND>(lParam))) control->onCommand(HIWORD(wParam));
       return 0;
     case WM_ACTIVATE:
-      onActivate(LOWORD(wParam) != WA_INACTIVE);
+      onActivate(LOWORD(wParam) != WA_INACTIVE, reinterpret_cast<HWND>(lParam));
       return 0;
     case WM_SETFOCUS:
       if (const NativeControl* control = controlOf(lastFocus); control && control->takesFocus()) SetFocus(lastFocus);
@@ -182,8 +190,10 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   return DefWindowProcW(hwnd, message, wParam, lParam);
 }
 
-void FormWindow::onActivate(bool active) {
+// Who came to one of our forms by keyboard goes on by keyboard in the next one.
+void FormWindow::onActivate(bool active, HWND before) {
   if (active) {
+    if (const FormWindow* other = formOf(before)) setShowsFocus(other->focusShown);
     // A popup says itself where the keyboard goes.
     if (frame != FormFrame::popup) SetFocus(hwnd);
     raise(activated);

@@ -35,6 +35,7 @@ class FormWindow final : public Window {
   Size sizeInPixels() const override;
   Point position() const override;
   Point clientOrigin() const override;
+  bool showsFocus() const override { return focusShown; }
   void showTopmostAt(Point topLeft) override;
   void showTopmost() override;
   void hide() override;
@@ -65,7 +66,6 @@ class FormWindow final : public Window {
   bool pointerMoved(HWND over, POINT point);
   // Told when the pointer leaves a window of the form; that counts only if it left the form altogether.
   void pointerLeft();
-  bool showsFocus() const { return focusShown; }
   void setShowsFocus(bool shows);
   // Tab, Shift+Tab and Escape; true when the key has been used up.
   bool handleNavigation(UINT message, WPARAM key, const NativeControl* from);
@@ -119,7 +119,8 @@ class FormWindow final : public Window {
   LRESULT callHook(const WindowProcedure& procedure, const Message& message);
   bool awaitsFocus(const Message& message);
   void paintOutline();
-  void onActivate(bool active);
+  void onActivate(bool active, HWND before);
+  static FormWindow* formOf(HWND window);
   void rememberFocus();
   void moveFocus(const NativeControl* from, bool backward);
   void fitRows();

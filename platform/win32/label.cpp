@@ -2,6 +2,7 @@
 
 #include <windowsx.h>
 
+#include "platform/win32/accessible_name.h"
 #include "platform/win32/form_window.h"
 #include "platform/win32/handles.h"
 #include "platform/win32/text.h"
@@ -31,10 +32,11 @@ LRESULT SystemLabel::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       form().raise(mouseDown);
       return 0;
     case WM_LBUTTONUP:
-      if (GetCapture() != window()) return 0;
-      ReleaseCapture();
-      if (RECT client; GetClientRect(window(), &client) && PtInRect(&client, point)) form().raise(mouseUp);
+      if (GetCapture() == window()) onButtonUp(point);
       return 0;
+    case WM_GETOBJECT:
+      if (const auto answer = answerAsCaption(window(), wParam, lParam)) return *answer;
+      break;
     default:
       break;
   }
@@ -52,6 +54,14 @@ void SystemLabel::draw(HDC target) {
   SetBkMode(target, TRANSPARENT);
   SetTextColor(target, GetSysColor(IsWindowEnabled(window()) ? COLOR_BTNTEXT : COLOR_GRAYTEXT));
   DrawTextW(target, text.c_str(), -1, &area, DT_LEFT | DT_NOPREFIX | DT_EXPANDTABS | DT_WORDBREAK);
+}
+
+void SystemLabel::onButtonUp(POINT point) {
+  RECT client = {};
+  const bool inside = GetClientRect(window(), &client) && PtInRect(&client, point);
+  ReleaseCapture();
+  form().raise(mouseUp);
+  if (inside) form().raise(click);
 }
 
 void SystemLabel::onHidden() {

@@ -11,7 +11,8 @@ class SystemLabel final : public ControlOf<Label> {
 
  private:
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-  bool hasMouse() const { return mouseMove || mouseDown || mouseUp; }
+  bool hasMouse() const { return mouseMove || mouseDown || mouseUp || click; }
+  void onButtonUp(POINT point);
   void draw(HDC target) override;
   void onHidden() override;
 };

@@ -34,6 +34,7 @@ class NativeControl {
   virtual void onCommand(WORD notification);  // from the control's own window, through the form
   // Whether the keyboard can come here now: it is shown, and its middle is neither folded away nor covered.
   virtual bool takesFocus() const { return false; }
+  virtual bool isTabStop() const { return takesFocus(); }
   bool isReachable(POINT point) const;  // in the control's own coordinates
 
   // Draws the control, with its upper left corner at the context's origin, for a form that paints its controls.

@@ -37,7 +37,7 @@ void SystemPictureBox::draw(HDC target) {
   if (extent.cx <= 0 || extent.cy <= 0) return;
   BackBuffer& buffer = form().backBuffer();
   const int lost = form().scale().pixelsY(layout().bounds.height) - static_cast<int>(extent.cy);
-  SystemCanvas canvas(buffer, extent, form().scale(), lost / 2);
+  SystemCanvas canvas(buffer, extent, form().scale(), lost / 2, form().showsFocus());
   canvas.clear();
   form().raise(paint, static_cast<Canvas&>(canvas));
   buffer.copyTo(target, extent.cx, extent.cy);
@@ -61,6 +61,7 @@ LRESULT SystemPictureBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) 
       return TRUE;
     case WM_SETFOCUS:
       form().raise(gotFocus);
+      announceFocus();
       return 0;
     case WM_KILLFOCUS:
       form().raise(lostFocus);

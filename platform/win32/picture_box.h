@@ -14,11 +14,13 @@ class SystemPictureBox final : public ControlOf<PictureBox>, private ControlPart
   ~SystemPictureBox() override;
   void repaint() override;
   void setFocus() override;
+  void setTabStop(bool stops) override { tabStop = stops; }
   void setTooltip(const std::string& text) override;
 
  private:
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   bool takesFocus() const override { return isShown() && (keyDown || parts); }
+  bool isTabStop() const override { return tabStop && takesFocus(); }
   void onHidden() override;
   void draw(HDC target) override;
 
@@ -28,6 +30,7 @@ class SystemPictureBox final : public ControlOf<PictureBox>, private ControlPart
   void onButtonDown(POINT point);
   void onButtonUp(POINT point);
   bool onKey(WPARAM key, LPARAM flags);
+  void announceFocus() const;
   void relayTooltip(UINT message, WPARAM wParam, LPARAM lParam);
   void offerTooltip(POINT point);
 
@@ -37,9 +40,11 @@ class SystemPictureBox final : public ControlOf<PictureBox>, private ControlPart
   std::wstring wholeName() const override;
   LONG wholeRole() const override { return ROLE_SYSTEM_GROUPING; }
   int partCount() const override { return static_cast<int>(currentParts().size()); }
+  bool isOneButton() const override { return pressPart && partCount() == 1; }
   std::wstring partName(int part) const override;
   DWORD wholeStateFlags() const override;
   DWORD partStateFlags(int part) const override;
+  std::wstring partTooltip(int part) const;
   RECT partArea(int part) const override;
   int partAt(POINT point) const override;
   int focusedPart() const override;
@@ -50,6 +55,7 @@ class SystemPictureBox final : public ControlOf<PictureBox>, private ControlPart
   std::wstring tooltip;
   int offeredPart = -1;
   std::wstring offeredName;
+  bool tabStop = true;
   bool clickStarted = false;
   bool held = false;
   PartsAccessible* accessible = nullptr;  // holds a reference while it is not null

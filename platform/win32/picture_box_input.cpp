@@ -88,9 +88,14 @@ bool SystemPictureBox::onKey(WPARAM key, LPARAM flags) {
   if (*meant == Key::choose && (flags & wasDown) != 0) return true;
   form().setShowsFocus(true);
   const bool used = form().raise(keyDown, *meant);
-  const int part = focusedPart();
-  if (used && part >= 0) NotifyWinEvent(EVENT_OBJECT_FOCUS, window(), OBJID_CLIENT, part + 1);
+  if (used) announceFocus();
   return used;
+}
+
+// The system tells of the control as a whole; a part of it is ours to tell of.
+void SystemPictureBox::announceFocus() const {
+  const int part = focusedPart();
+  if (part >= 0 && !isOneButton()) NotifyWinEvent(EVENT_OBJECT_FOCUS, window(), OBJID_CLIENT, part + 1);
 }
 
 void SystemPictureBox::relayTooltip(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -101,7 +106,7 @@ void SystemPictureBox::relayTooltip(UINT message, WPARAM wParam, LPARAM lParam) 
 // One tooltip at a time, that of the part below the pointer: the parts may change at any time.
 void SystemPictureBox::offerTooltip(POINT point) {
   const int part = partAt(point);
-  const std::wstring name = part >= 0 ? partName(part) : parts ? std::wstring() : tooltip;
+  const std::wstring name = part >= 0 ? partTooltip(part) : parts ? std::wstring() : tooltip;
   if (part == offeredPart && name == offeredName) return;
   offeredPart = part;
   offeredName = name;
@@ -126,16 +131,16 @@ std::optional<DrawnPart> SystemPictureBox::partOf(int index) const {
   return std::move(all[static_cast<std::size_t>(index)]);
 }
 
-// A box that is one button is called like it.
-std::wstring SystemPictureBox::wholeName() const {
-  const std::vector<DrawnPart> all = currentParts();
-  if (!tooltip.empty()) return tooltip;
-  return *layout().tooltip == '\0' && all.size() == 1 ? wide(all.front().name) : accessibleName();
-}
+std::wstring SystemPictureBox::wholeName() const { return tooltip.empty() ? accessibleName() : tooltip; }
 
 std::wstring SystemPictureBox::partName(int part) const {
   const std::optional<DrawnPart> found = partOf(part);
   return found ? wide(found->name) : std::wstring();
+}
+
+std::wstring SystemPictureBox::partTooltip(int part) const {
+  const std::optional<DrawnPart> found = partOf(part);
+  return found && !found->captioned ? wide(found->name) : std::wstring();
 }
 
 RECT SystemPictureBox::partArea(int part) const {
@@ -154,6 +159,7 @@ DWORD SystemPictureBox::partStateFlags(int part) const {
   const std::optional<DrawnPart> found = partOf(part);
   if (!found || !IsWindowVisible(window())) return STATE_SYSTEM_INVISIBLE | STATE_SYSTEM_UNAVAILABLE;
   DWORD flags = found->pressed ? STATE_SYSTEM_PRESSED : 0;
+  if (found->hot) flags |= STATE_SYSTEM_HOTTRACKED;
   if (!IsWindowEnabled(form().window())) return flags | STATE_SYSTEM_UNAVAILABLE;
   flags |= STATE_SYSTEM_FOCUSABLE;
   if (found->focused && GetFocus() == window()) flags |= STATE_SYSTEM_FOCUSED;

@@ -210,6 +210,41 @@ TEST_F(LineThickness, EscapeClosesItWithoutAChoice) {
   EXPECT_EQ(take(), closing());
 }
 
+TEST_F(LineThickness, OpenedByKeyboardStartsOnThePressedButton) {
+  model->values["LineThicknessScale"] = std::int16_t{60};
+  menu().ShowSelf(1, 1);
+  EXPECT_EQ(barThick().focusedKey, "");
+  menu().HideSelf();
+  platform.windows.focus.isShown = true;
+  menu().ShowSelf(1, 1);
+  EXPECT_EQ(barThick().focusedKey, "Thin");
+  EXPECT_FALSE(panel().isTabStop) << "nothing shows that the panel has the focus";
+}
+
+TEST_F(LineThickness, AScaleThatIsNoNumberIsLeftAlone) {
+  open(std::int16_t{110});
+  menu().HideSelf();
+  for (const Value& scale : {Value(std::string("thin")), Value(Null{}), Value(ObjectRef())}) {
+    model->values["LineThicknessScale"] = scale;
+    take();
+    menu().ShowSelf(1, 1);
+    EXPECT_THAT(take(), ElementsAre("frmLineThicknessMenu: show topmost at (1, 1)", "model: LineThicknessScale"));
+    EXPECT_EQ(menu().GetSelection(), 110);
+    EXPECT_EQ(pressedKeys(), "Thick;");
+    menu().HideSelf();
+  }
+}
+
+TEST_F(LineThickness, ClosesOnceBeforeItHasEverShown) {
+  menu().unload();
+  menu().load();
+  take();
+  menu().HideSelf();
+  EXPECT_EQ(take(), closing());
+  menu().HideSelf();
+  EXPECT_THAT(take(), IsEmpty());
+}
+
 TEST_F(LineThickness, AnArrowKeyLeadsFromThePanelToThePressedButton) {
   open(std::int16_t{110});
   EXPECT_TRUE(panel().key(Key::down));

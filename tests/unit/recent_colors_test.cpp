@@ -78,7 +78,8 @@ TEST_P(StoredSlot, OutsideTheRingCountsAsNone) {
 INSTANTIATE_TEST_SUITE_P(Texts, StoredSlot,
                          testing::Values(TextCase{"0", 0}, TextCase{"7", 7}, TextCase{"8", -1}, TextCase{"-1", -1},
                                          TextCase{"-2", -1}, TextCase{"", -1}, TextCase{"99999999999", 0},
-                                         TextCase{"2.5", 2}));
+                                         TextCase{"2.5", 2}, TextCase{"abc", 0}, TextCase{" 3 ", 3},
+                                         TextCase{"7.5", -1}, TextCase{"-0.5", 0}));
 
 TEST_F(RecentColorsTest, AreWrittenWholeAndComeBack) {
   RecentColors recent;
@@ -91,14 +92,59 @@ TEST_F(RecentColorsTest, AreWrittenWholeAndComeBack) {
   EXPECT_EQ(back.LastColor, 2);
 }
 
-TEST(NamedColors, AreFortyInRowsOfEight) {
-  EXPECT_EQ(namedColors.size(), 40U);
-  EXPECT_STREQ(namedColors[0].name, "Black");
-  EXPECT_EQ(namedColors[1].color, 153 + 256 * 51);
-  EXPECT_STREQ(namedColors[23].name, "Gray-40%");
-  EXPECT_EQ(namedColors[23].color, 150 + 256 * 150 + 65536 * 150);
-  EXPECT_STREQ(namedColors[39].name, "White");
-  EXPECT_EQ(namedColors[39].color, 16777215);
+// Eight to a row, as they lie in the grid.
+constexpr struct {
+  const char* name;
+  int red, green, blue;
+} paletteRows[] = {
+    {"Black", 0, 0, 0},
+    {"Brown", 153, 51, 0},
+    {"Olive Green", 51, 51, 0},
+    {"Dark Green", 0, 51, 0},
+    {"Dark Teal", 0, 51, 102},
+    {"Dark Blue", 0, 0, 128},
+    {"Indigo", 51, 51, 153},
+    {"Gray-80%", 51, 51, 51},
+    {"Dark Red", 128, 0, 0},
+    {"Orange", 255, 102, 0},
+    {"Dark Yellow", 128, 128, 0},
+    {"Green", 0, 128, 0},
+    {"Teal", 0, 128, 128},
+    {"Blue", 0, 0, 255},
+    {"Blue-Gray", 102, 102, 153},
+    {"Gray-50%", 128, 128, 128},
+    {"Red", 255, 0, 0},
+    {"Light Orange", 255, 153, 0},
+    {"Lime", 153, 204, 0},
+    {"Sea Green", 51, 153, 102},
+    {"Aqua", 51, 204, 204},
+    {"Light Blue", 51, 102, 255},
+    {"Violet", 128, 0, 128},
+    {"Gray-40%", 150, 150, 150},
+    {"Pink", 255, 0, 255},
+    {"Gold", 255, 204, 0},
+    {"Yellow", 255, 255, 0},
+    {"Bright Green", 0, 255, 0},
+    {"Turquoise", 0, 255, 255},
+    {"Sky Blue", 0, 204, 255},
+    {"Plum", 153, 51, 102},
+    {"Gray-25%", 192, 192, 192},
+    {"Rose", 255, 153, 204},
+    {"Tan", 255, 204, 153},
+    {"Light Yellow", 255, 255, 153},
+    {"Light Green", 204, 255, 204},
+    {"Light Turquoise", 204, 255, 255},
+    {"Pale Blue", 153, 204, 255},
+    {"Lavender", 204, 153, 255},
+    {"White", 255, 255, 255},
+};
+
+TEST(NamedColors, AreFortyInTheirOrder) {
+  ASSERT_EQ(namedColors.size(), std::size(paletteRows));
+  for (std::size_t i = 0; i < namedColors.size(); ++i) {
+    EXPECT_STREQ(namedColors[i].name, paletteRows[i].name);
+    EXPECT_EQ(namedColors[i].color, paletteRows[i].red + 256 * paletteRows[i].green + 65536 * paletteRows[i].blue) << i;
+  }
 }
 
 }  // namespace

@@ -72,6 +72,11 @@ Json element(HWND window, IAccessible* object, long child) {
           {"rect", place}};
 }
 
+// The other classes' elements are windows of their own.
+bool drawsItsElements(const std::wstring& className) {
+  return className.find(L"Bar") != std::wstring::npos || className.find(L"Picture") != std::wstring::npos;
+}
+
 void addWindow(HWND window, Json& list) {
   Com<IAccessible> object;
   if (!clientOf(window, object)) return;
@@ -81,8 +86,7 @@ void addWindow(HWND window, Json& list) {
   list.back()["class"] = utf8(className);
   long count = 0;
   object->get_accChildCount(&count);
-  // Only bars have elements that are not windows of their own.
-  if (std::wstring(className).find(L"Bar") == std::wstring::npos) return;
+  if (!drawsItsElements(className)) return;
   for (long child = 1; child <= count && child <= 200; ++child) {
     list.push_back(element(window, object.pointer, child));
   }
