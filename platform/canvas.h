@@ -7,7 +7,7 @@
 namespace nerida {
 
 // System colours that drawings use, so that they follow the desktop's colour scheme.
-enum class SystemColor { buttonFace = 15, buttonShadow = 16, buttonHighlight = 20 };
+enum class SystemColor { selection = 13, buttonFace = 15, buttonShadow = 16, buttonHighlight = 20 };
 
 // Red + 256 green + 65536 blue.
 using Rgb = std::int32_t;

@@ -70,7 +70,7 @@ void ColorPalette::moveFrame(std::int16_t index) {
 }
 
 void ColorPalette::setFrame(Cell cell) {
-  frame = {true, frameAround(cell, {state.gTwipsPerPixelX}, {state.gTwipsPerPixelY})};
+  frame = {true, frameAround(cell, pixel())};
   picture("pnlColor").repaint();
 }
 

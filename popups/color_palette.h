@@ -72,6 +72,7 @@ class ColorPalette : public Popup {
   static constexpr std::int16_t moreColorsRow = 6;
   static constexpr std::int16_t styleRow = 7;
 
+  Pixel pixel() const { return {{state.gTwipsPerPixelX}, {state.gTwipsPerPixelY}}; }
   PictureBox& picture(const char* name) { return loadedWindow().pictureBox(name); }
 
   void preselect();

@@ -1,59 +1,56 @@
 #include "popups/palette_entries.h"
 
-#include "popups/palette_grid.h"
-
 namespace nerida {
 namespace {
 
-constexpr Twips right{paletteEntryWidth - 15};
-constexpr Twips bottom{paletteEntryHeight - 15};
-
-// The swatch of an entry lies in the grid's first column.
-constexpr std::int32_t swatchLeft = 60;
-constexpr std::int32_t swatchTop = 75;
-constexpr std::int32_t swatchSide = 165;
-
-void paintEdge(Canvas& canvas, SystemColor upper, SystemColor lower) {
-  canvas.line({0}, {0}, right, {0}, upper);
-  canvas.line({0}, {0}, {0}, bottom, upper);
-  canvas.line({0}, bottom, right, bottom, lower);
-  canvas.line(right, {0}, right, bottom, lower);
+// The entries' swatches lie below those of the grid's first column and are framed like them.
+Corners frameOfSwatch(Pixel pixel) {
+  constexpr Twips top{(paletteEntryHeight - cellPitch) / 2};
+  return {{0}, top, Twips{cellPitch} - pixel.x, top + Twips{cellPitch} - pixel.y};
 }
 
-void paintFrame(Canvas& canvas, EntryLook look, bool sunken) {
-  if (look.pressed || sunken) {
-    paintEdge(canvas, SystemColor::buttonShadow, SystemColor::buttonHighlight);
-  } else if (look.hovered) {
-    paintEdge(canvas, SystemColor::buttonHighlight, SystemColor::buttonShadow);
-  }
-  if (look.focused) canvas.focusBox({45}, {45}, right - Twips{45}, bottom - Twips{45});
+// What is down has sunk in by a pixel.
+Corners sunk(const Corners& place, Pixel pixel) {
+  return {place.left + pixel.x, place.top + pixel.y, place.right + pixel.x, place.bottom + pixel.y};
+}
+
+void paintOutline(Canvas& canvas, const Corners& place) {
+  canvas.box(place.left, place.top, place.right, place.bottom, SystemColor::selection);
+}
+
+void paintLook(Canvas& canvas, EntryLook look, Pixel pixel) {
+  const Corners whole{{0}, {0}, Twips{paletteEntryWidth} - pixel.x, Twips{paletteEntryHeight} - pixel.y};
+  if (look.hovered || look.pressed) paintOutline(canvas, whole);
+  if (look.pressed) paintOutline(canvas, shrunk(whole, 1, pixel));
+  const Corners inside = shrunk(whole, 2, pixel);
+  if (look.focused) canvas.focusBox(inside.left, inside.top, inside.right, inside.bottom);
 }
 
 }  // namespace
 
-void paintStyleEntry(Canvas& canvas, EntryLook look, bool chosen) {
-  constexpr Twips left{swatchLeft};
-  constexpr Twips top{swatchTop};
-  constexpr Twips side{swatchSide};
-  canvas.filledBox(left, top, left + side, top + side, SystemColor::buttonHighlight);
-  canvas.line(left, top + side, left + side, top, SystemColor::buttonShadow);
-  canvas.line(left, top, left + side, top + side, SystemColor::buttonShadow);
-  canvas.box(left, top, left + side, top + side, SystemColor::buttonShadow);
-  paintFrame(canvas, look, chosen);
+void paintStyleEntry(Canvas& canvas, EntryLook look, bool chosen, Pixel pixel) {
+  const Corners frame = frameOfSwatch(pixel);
+  const auto [left, top, right, bottom] = swatchIn(frame, pixel);
+  canvas.filledBox(left, top, right, bottom, SystemColor::buttonHighlight);
+  canvas.line(left, bottom, right, top, SystemColor::buttonShadow);
+  canvas.line(left, top, right, bottom, SystemColor::buttonShadow);
+  canvas.box(left, top, right, bottom, SystemColor::buttonShadow);
+  if (chosen) paintFrame(canvas, frame);
+  paintLook(canvas, look, pixel);
 }
 
-void paintMoreColorsEntry(Canvas& canvas, EntryLook look) {
+void paintMoreColorsEntry(Canvas& canvas, EntryLook look, Pixel pixel) {
   constexpr Rgb quarters[2][2] = {{rgb(255, 0, 0), rgb(255, 204, 0)}, {rgb(51, 102, 255), rgb(0, 128, 0)}};
-  constexpr std::int32_t half = 90;
-  for (std::int32_t row = 0; row < 2; ++row) {
-    for (std::int32_t column = 0; column < 2; ++column) {
-      const Twips x{swatchLeft + column * half};
-      const Twips y{swatchTop + row * half};
-      canvas.filledBox(x, y, x + Twips{half - 15}, y + Twips{half - 15}, quarters[row][column]);
-    }
-  }
-  canvas.box({swatchLeft}, {swatchTop}, {swatchLeft + swatchSide}, {swatchTop + swatchSide}, SystemColor::buttonShadow);
-  paintFrame(canvas, look, false);
+  const Corners still = swatchIn(frameOfSwatch(pixel), pixel);
+  const auto [left, top, right, bottom] = look.pressed ? sunk(still, pixel) : still;
+  const Twips middleX = left + Twips{(right - left).value / 2};
+  const Twips middleY = top + Twips{(bottom - top).value / 2};
+  canvas.filledBox(left, top, middleX, middleY, quarters[0][0]);
+  canvas.filledBox(middleX + pixel.x, top, right, middleY, quarters[0][1]);
+  canvas.filledBox(left, middleY + pixel.y, middleX, bottom, quarters[1][0]);
+  canvas.filledBox(middleX + pixel.x, middleY + pixel.y, right, bottom, quarters[1][1]);
+  canvas.box(left, top, right, bottom, SystemColor::buttonShadow);
+  paintLook(canvas, look, pixel);
 }
 
 }  // namespace nerida

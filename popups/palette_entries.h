@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/canvas.h"
+#include "popups/palette_grid.h"
 
 namespace nerida {
 
@@ -12,9 +13,9 @@ struct EntryLook {
 };
 
 // The entry that hands the colour back to the style: an empty swatch, crossed out. chosen: the style's colour is shown.
-void paintStyleEntry(Canvas& canvas, EntryLook look, bool chosen);
+void paintStyleEntry(Canvas& canvas, EntryLook look, bool chosen, Pixel pixel);
 
 // The entry that opens the colour dialog.
-void paintMoreColorsEntry(Canvas& canvas, EntryLook look);
+void paintMoreColorsEntry(Canvas& canvas, EntryLook look, Pixel pixel);
 
 }  // namespace nerida

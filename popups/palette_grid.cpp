@@ -33,11 +33,22 @@ std::optional<Cell> cellAt(Twips x, Twips y) {
 
 // One pixel is taken off the right edge, off the upper edge of the named colours and off the lower edge of the recent
 // ones: so the lines fall on the borders of the swatches.
-Corners frameAround(Cell cell, Twips pixelX, Twips pixelY) {
+Corners frameAround(Cell cell, Pixel pixel) {
   const Twips left{cell.column * cellPitch + gridLeft};
-  const Twips right = Twips{(cell.column + 1) * cellPitch + gridLeft} - pixelX;
-  if (cell.row >= recentRow) return {left, {recentRowTop + gridTop}, right, Twips{recentRowBottom + gridTop} - pixelY};
-  return {left, Twips{cell.row * cellPitch + gridTop} + pixelY, right, {(cell.row + 1) * cellPitch + gridTop}};
+  const Twips right = Twips{(cell.column + 1) * cellPitch + gridLeft} - pixel.x;
+  if (cell.row >= recentRow) return {left, {recentRowTop + gridTop}, right, Twips{recentRowBottom + gridTop} - pixel.y};
+  return {left, Twips{cell.row * cellPitch + gridTop} + pixel.y, right, {(cell.row + 1) * cellPitch + gridTop}};
+}
+
+Corners shrunk(const Corners& place, std::int32_t pixels, Pixel pixel) {
+  const Twips x{pixels * pixel.x.value};
+  const Twips y{pixels * pixel.y.value};
+  return {place.left + x, place.top + y, place.right - x, place.bottom - y};
+}
+
+// In whole pixels, or the swatches of a row would differ in width.
+Corners swatchIn(const Corners& frame, Pixel pixel) {
+  return shrunk(frame, std::max(swatchInset / std::max(pixel.x.value, 1), 1), pixel);
 }
 
 Bounds placeOfCell(Cell cell) {
@@ -45,25 +56,16 @@ Bounds placeOfCell(Cell cell) {
   return {{gridLeft + cell.column * cellPitch}, {gridTop + top}, {cellPitch}, {cellPitch}};
 }
 
-void paintCell(Canvas& canvas, Cell cell, Rgb color) {
-  const Bounds place = placeOfCell(cell);
-  const Twips inset{swatchInset};
-  const Twips left = place.left + inset;
-  const Twips top = place.top + inset;
-  const Twips right = place.left + place.width - inset - Twips{15};
-  const Twips bottom = place.top + place.height - inset - Twips{15};
-  canvas.filledBox(left, top, right, bottom, color);
-  canvas.box(left, top, right, bottom, SystemColor::buttonShadow);
+void paintSwatch(Canvas& canvas, const Corners& place, Rgb color) {
+  canvas.filledBox(place.left, place.top, place.right, place.bottom, color);
+  canvas.box(place.left, place.top, place.right, place.bottom, SystemColor::buttonShadow);
 }
 
 void paintFrame(Canvas& canvas, const Corners& place) {
-  const Twips inset{15};
-  canvas.box(place.left + inset, place.top + inset, place.right - inset, place.bottom - inset,
-             SystemColor::buttonHighlight);
-  canvas.line(place.left, place.top, place.right, place.top, SystemColor::buttonShadow);
-  canvas.line(place.left, place.bottom, place.right, place.bottom, SystemColor::buttonShadow);
-  canvas.line(place.left, place.top, place.left, place.bottom, SystemColor::buttonShadow);
-  canvas.line(place.right, place.top, place.right, place.bottom, SystemColor::buttonShadow);
+  canvas.line(place.left, place.top, place.right, place.top, SystemColor::selection);
+  canvas.line(place.left, place.bottom, place.right, place.bottom, SystemColor::selection);
+  canvas.line(place.left, place.top, place.left, place.bottom, SystemColor::selection);
+  canvas.line(place.right, place.top, place.right, place.bottom, SystemColor::selection);
 }
 
 }  // namespace nerida

@@ -52,16 +52,26 @@ struct Corners {
   friend constexpr bool operator==(const Corners&, const Corners&) = default;
 };
 
-// The rectangle of the selection frame around a cell. pixelX and pixelY are one screen pixel.
-Corners frameAround(Cell cell, Twips pixelX, Twips pixelY);
+// One screen pixel.
+struct Pixel {
+  Twips x, y;
+};
+
+// The rectangle of the selection frame around a cell.
+Corners frameAround(Cell cell, Pixel pixel);
+
+// A rectangle that is smaller by a number of screen pixels on each side.
+Corners shrunk(const Corners& place, std::int32_t pixels, Pixel pixel);
+
+// The swatch in the middle of a frame: as far from each of its lines.
+Corners swatchIn(const Corners& frame, Pixel pixel);
 
 // The cell's square.
 Bounds placeOfCell(Cell cell);
 
-// Draws a swatch in the middle of a cell.
-void paintCell(Canvas& canvas, Cell cell, Rgb color);
+void paintSwatch(Canvas& canvas, const Corners& place, Rgb color);
 
-// Draws the four lines of the selection frame, with a light twin inside so that it shows in every colour scheme.
+// Draws the four lines of the selection frame.
 void paintFrame(Canvas& canvas, const Corners& place);
 
 }  // namespace nerida

@@ -34,7 +34,7 @@ void ColorPalette::connectMoreColors() {
   label.mouseMove = [this] { enterEntry(moreColorsRow); };
   label.mouseDown = [this] { pressMoreColors(true); };
   label.mouseUp = [this] { releaseMoreColors(); };
-  box.paint = [this](Canvas& canvas) { paintMoreColorsEntry(canvas, lookOf(moreColorsRow)); };
+  box.paint = [this](Canvas& canvas) { paintMoreColorsEntry(canvas, lookOf(moreColorsRow), pixel()); };
   box.mouseMove = [this](Twips, Twips) { enterEntry(moreColorsRow); };
   box.mouseDown = [this](Twips, Twips) { pressMoreColors(true); };
   box.mouseUp = [this](Twips, Twips) { releaseMoreColors(); };
@@ -53,7 +53,7 @@ void ColorPalette::connectStyleDefault() {
   const auto choose = [this] { handle(messages, [this] { chooseStyleDefault(); }); };
   label.mouseMove = [this] { enterEntry(styleRow); };
   label.click = choose;
-  box.paint = [this](Canvas& canvas) { paintStyleEntry(canvas, lookOf(styleRow), styleColorShown); };
+  box.paint = [this](Canvas& canvas) { paintStyleEntry(canvas, lookOf(styleRow), styleColorShown, pixel()); };
   box.mouseMove = [this](Twips, Twips) { enterEntry(styleRow); };
   box.mouseDown = [choose](Twips, Twips) { choose(); };
   box.keyDown = [choose](Key key) {
@@ -185,13 +185,13 @@ EntryLook ColorPalette::lookOf(std::int16_t row) const {
 }
 
 void ColorPalette::paintPanel(Canvas& canvas) const {
-  for (std::int16_t i = 0; i < cellCount; ++i) paintCell(canvas, cellOfIndex(i), colorOf(i));
+  for (std::int16_t i = 0; i < cellCount; ++i) {
+    paintSwatch(canvas, swatchIn(frameAround(cellOfIndex(i), pixel()), pixel()), colorOf(i));
+  }
   if (frame.visible) paintFrame(canvas, frame.place);
   if (focus != Focus::grid || !keysInUse) return;
-  const Bounds place = placeOfCell(keyboardCell());
-  const Twips inset{30};
-  canvas.focusBox(place.left + inset, place.top + inset, place.left + place.width - inset,
-                  place.top + place.height - inset);
+  const Corners inside = shrunk(frameAround(keyboardCell(), pixel()), 1, pixel());
+  canvas.focusBox(inside.left, inside.top, inside.right, inside.bottom);
 }
 
 }  // namespace nerida

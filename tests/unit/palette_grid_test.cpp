@@ -181,9 +181,8 @@ TEST_F(PaletteGrid, ASystemColorIsNoneOfTheColors) {
 
 TEST_F(PaletteGrid, TheEntryOfTheStyleLooksChosenWhileTheStylesColorShows) {
   const auto edges = [this] {
-    FramePad pad;
-    window().picture("picLSSwatch").paint(pad);
-    return pad.lines.size();
+    const Lines drawn = window().picture("picLSSwatch").draw();
+    return std::ranges::count_if(drawn, [](const std::string& line) { return line.ends_with("in system 13"); });
   };
   open();
   const auto chosen = edges();
