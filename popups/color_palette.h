@@ -94,6 +94,7 @@ class ColorPalette : public Popup {
   void pnlColor_MouseDown(Twips x, Twips y);
   bool pnlColor_KeyDown(Key key);
   void enterEntry(std::int16_t row);
+  void forgetPointer();
   void pressMoreColors(bool pressed);
   void releaseMoreColors();
   void connectFocus(PictureBox& box, Focus place);

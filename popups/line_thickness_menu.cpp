@@ -52,6 +52,7 @@ void frmLineThicknessMenu::connectEvents() {
   PictureBox& pnlThickness = loadedWindow().pictureBox("pnlThickness");
   const auto leave = [this] { ignoringErrors([this] { closeIfFocusWentElsewhere(); }); };
   barThick().buttonPress = [this](const std::string& key) { barThick_ButtonPress(key); };
+  barThick().gotFocus = [this] { ignoringErrors([this] { return loadedWindow().showsFocus() && enterBar(); }); };
   barThick().lostFocus = leave;
   pnlThickness.lostFocus = leave;
   pnlThickness.keyDown = [this](Key key) { return key != Key::choose && enterBar(); };
@@ -94,7 +95,7 @@ void frmLineThicknessMenu::showCurrentThickness() {
   barThick().setValue(current.key, 1);
 }
 
-// The arrow keys lead from the panel to the button of the current thickness.
+// The keyboard begins at the button of the current thickness.
 bool frmLineThicknessMenu::enterBar() {
   barThick().focusButton(thicknessFor(selection).key);
   return true;

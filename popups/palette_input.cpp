@@ -9,6 +9,7 @@ namespace nerida {
 void ColorPalette::connectEvents() {
   Window& form = loadedWindow();
   form.activated = [this] { ignoringErrors([this] { picture("pnlColor").setFocus(); }); };
+  form.mouseLeft = [this] { handle(messages, [this] { forgetPointer(); }); };
   form.closeRequested = [this] { handle(messages, [this] { HideSelf(); }); };
   connectGrid();
   connectMoreColors();
@@ -84,6 +85,14 @@ void ColorPalette::pnlColor_MouseMove(Twips x, Twips y) {
 void ColorPalette::pnlColor_MouseDown(Twips x, Twips y) {
   if (keysInUse) pnlColor_MouseMove(x, y);
   chooseHovered();
+}
+
+// What shows the model's colour stays; only what the pointer marked goes with it.
+void ColorPalette::forgetPointer() {
+  if (previouslyHovered.row < 0) return;
+  repaintEntry(previouslyHovered.row);
+  if (previouslyHovered.column >= 0) hideFrame();
+  hovered = previouslyHovered = {};
 }
 
 // The row alone tells that an entry is hovered, so no cell counts as the one under the pointer.

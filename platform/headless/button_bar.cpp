@@ -106,9 +106,37 @@ void Bar::hover(const std::string& key) {
   if (buttonMouseMove) buttonMouseMove(key);
 }
 
+bool Bar::shows(const std::string& key) const {
+  const auto shown = layouts.find(shownLayout);
+  return shown != layouts.end() &&
+         std::ranges::any_of(shown->second.buttons, [&](const Button& button) { return button.key == key; });
+}
+
+void Bar::focusButton(const std::string& key) {
+  if (!visible || !enabled || !shows(key)) return;
+  focusedKey = key;
+  focus.isShown = true;
+  const bool came = focus.give(this, [this] { loseFocus(); });
+  if (came && gotFocus) gotFocus();
+}
+
 void Bar::loseFocus() {
+  focus.forget(this);
   focusedKey.clear();
   if (lostFocus) lostFocus();
+}
+
+void Bar::key(Key pressed) {
+  focus.isShown = true;
+  if (pressed == Key::choose) {
+    press(focusedKey);
+    return;
+  }
+  if (arrowKey && arrowKey(focusedKey, pressed)) return;
+  const std::vector<std::string> all = keys();
+  const auto at = static_cast<std::size_t>(std::ranges::find(all, focusedKey) - all.begin());
+  const bool back = pressed == Key::left || pressed == Key::up;
+  focusedKey = all[(at + (back ? all.size() - 1 : 1)) % all.size()];
 }
 
 Bar::Button* Bar::find(const std::string& key) {

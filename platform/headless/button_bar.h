@@ -6,6 +6,7 @@
 
 #include "platform/bitmap_spec.h"
 #include "platform/button_bar.h"
+#include "platform/headless/keyboard_focus.h"
 #include "platform/headless/transcript.h"
 
 namespace nerida::headless {
@@ -28,8 +29,8 @@ class Bar : public ButtonBar {
     bool laidOut = false;
   };
 
-  Bar(Transcript& transcript, std::string name, Bounds bounds)
-      : name(std::move(name)), transcript(transcript), place(bounds) {}
+  Bar(Transcript& transcript, std::string name, Bounds bounds, KeyboardFocus& focus)
+      : name(std::move(name)), transcript(transcript), place(bounds), focus(focus) {}
 
   void setVisible(bool visible) override;
   bool isVisible() const override { return visible; }
@@ -49,11 +50,13 @@ class Bar : public ButtonBar {
   void setState(const std::string& key, int state, bool redraw) override;
   void setValue(const std::string& key, int value) override;
   std::optional<std::uint32_t> pressBegan() const override { return clickedAt; }
-  void focusButton(const std::string& key) override { focusedKey = key; }
+  void focusButton(const std::string& key) override;
 
   // The pointer moves over a button.
   void hover(const std::string& key);
   void loseFocus();
+  // A key in the button that has the focus: what the form does not use of the arrows moves along the bar.
+  void key(Key pressed);
   // The user presses a button of the layout that is shown. Pressing what is not there is a mistake of the test.
   void press(const std::string& key);
   const Button& button(const std::string& key) const;
@@ -74,9 +77,11 @@ class Bar : public ButtonBar {
   Layout& opened();
   Button& lastAdded();
   Button* find(const std::string& key);
+  bool shows(const std::string& key) const;
 
   Transcript& transcript;
   Bounds place;
+  KeyboardFocus& focus;
   std::string openedLayout;
   bool visible = true;
 };

@@ -55,14 +55,14 @@ std::vector<std::string> Picture::draw() const {
 }
 
 void Picture::setFocus() {
-  if (focus.holder == this) return;
-  if (focus.holder) focus.holder->loseFocus();
-  focus.holder = this;
-  if (gotFocus) gotFocus();
+  const bool came = focus.give(this, [this] {
+    if (lostFocus) lostFocus();
+  });
+  if (came && gotFocus) gotFocus();
 }
 
 void Picture::loseFocus() {
-  if (focus.holder == this) focus.holder = nullptr;
+  focus.forget(this);
   if (lostFocus) lostFocus();
 }
 
@@ -88,14 +88,23 @@ void Caption::movePointer() const {
   if (mouseMove) mouseMove();
 }
 
+void Caption::press() const {
+  if (mouseDown) mouseDown();
+}
+
+void Caption::release(bool inside) const {
+  if (mouseUp) mouseUp();
+  if (inside && Label::click) Label::click();
+}
+
 void Caption::click() const {
-  pressAndLeave();
-  if (Label::click) Label::click();
+  press();
+  release(true);
 }
 
 void Caption::pressAndLeave() const {
-  if (mouseDown) mouseDown();
-  if (mouseUp) mouseUp();
+  press();
+  release(false);
 }
 
 void Caption::setCaption(const std::string& value) {

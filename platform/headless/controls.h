@@ -5,6 +5,7 @@
 
 #include "platform/canvas.h"
 #include "platform/control.h"
+#include "platform/headless/keyboard_focus.h"
 #include "platform/headless/transcript.h"
 
 namespace nerida::headless {
@@ -64,12 +65,6 @@ class Text : public Basic<TextBox> {
   std::string content;
 };
 
-// Which picture box has the keyboard focus, and whether the windows show it.
-struct KeyboardFocus {
-  class Picture* holder = nullptr;
-  bool isShown = false;
-};
-
 class Picture : public Basic<PictureBox> {
  public:
   Picture(Transcript& transcript, std::string name, Bounds bounds, KeyboardFocus& focus)
@@ -101,6 +96,8 @@ class Caption : public Basic<Label> {
   void setCaption(const std::string& value) override;
 
   void movePointer() const;
+  void press() const;
+  void release(bool inside) const;
   void click() const;          // down and up
   void pressAndLeave() const;  // down, and up elsewhere
 

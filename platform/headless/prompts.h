@@ -29,6 +29,8 @@ class Boxes : public Prompts {
   // Runs while a box is open.
   std::function<void()> duringBox;
   std::deque<std::optional<Rgb>> colorChoices;  // nothing: the user cancels
+  // Or what the user does with the colour that a dialog starts from.
+  std::function<std::optional<Rgb>(Rgb start)> colorAnswer;
   // Runs while a colour dialog is open.
   std::function<void()> duringColorDialog;
   std::function<void(bool open)> colorDialogToggles;

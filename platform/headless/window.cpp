@@ -33,8 +33,9 @@ FormWindow::FormWindow(Windows& windows, const FormLayout& layout, WindowHandle 
 // inside one of its own events.
 void FormWindow::dispose() {
   for (const auto& [key, picture] : pictures) {
-    if (windows.focus.holder == picture.get()) windows.focus.holder = nullptr;
+    windows.focus.forget(picture.get());
   }
+  for (const auto& [key, bar] : bars) windows.focus.forget(bar.get());
   if (windows.active == this) windows.active = nullptr;
   if (windows.activeBefore == this) windows.activeBefore = nullptr;
   std::erase(windows.living, this);
@@ -50,7 +51,7 @@ void FormWindow::createControls() {
     const std::pair key(std::string(control.name), control.index);
     switch (control.kind) {
       case ControlKind::buttonBar:
-        bars[key] = std::make_unique<Bar>(windows.transcript, name, control.bounds);
+        bars[key] = std::make_unique<Bar>(windows.transcript, name, control.bounds, windows.focus);
         break;
       case ControlKind::comboBox:
         combos[key] = std::make_unique<Combo>(windows.transcript, name, control.bounds);
@@ -122,7 +123,9 @@ void FormWindow::hide() {
 void FormWindow::showModal() {
   note("show modal");
   setVisible(true);
+  FormWindow* const before = std::exchange(windows.modal, this);
   if (windows.duringModal) windows.duringModal(*this);
+  windows.modal = before;
   if (visible && windows.find(layout.name) == this) throw TestEnded{std::string(layout.name) + " waits for a user"};
   note("modal end");
 }
@@ -192,7 +195,7 @@ void Windows::activate(FormWindow* window) {
   FormWindow* before = std::exchange(active, window);
   if (activeChanged) activeChanged(window ? window->handle() : 0);
   if (before) before->raise(before->deactivated);
-  if (focus.holder) focus.holder->loseFocus();
+  focus.take();
   if (window && active == window) window->raise(window->activated);
 }
 

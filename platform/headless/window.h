@@ -108,6 +108,7 @@ class Windows : public WindowFactory {
   std::vector<FormWindow*> living;  // in order of creation
   std::vector<std::unique_ptr<FormWindow>> gone;
   FormWindow* active = nullptr;
+  FormWindow* modal = nullptr;  // the one that keeps the input from all others
   KeyboardFocus focus;
   // Told of every change of the active window.
   std::function<void(WindowHandle)> activeChanged;

@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <array>
+#include <cstdio>
 #include <stdexcept>
 
 #include "platform/headless/platform.h"
@@ -16,6 +18,19 @@ std::string keyPath() { return std::string("Software\\") + contractKey; }
 
 Value joined(std::span<Argument> arguments) {
   return std::int32_t{toInt16(arguments[0].value) * 10 + toInt16(arguments[1].value)};
+}
+
+// One recorded stroke, as it colours a point; every second twip of a focus rectangle is inverted.
+void draw(const std::string& line, std::int32_t x, std::int32_t y, Rgb& color) {
+  std::array<char, 8> what{};
+  std::int32_t left = 0, top = 0, right = 0, bottom = 0;
+  unsigned red = 0, green = 0, blue = 0;
+  const int read = std::sscanf(line.c_str(), "%7s %d,%d to %d,%d in #%2x%2x%2x", what.data(), &left, &top, &right,
+                               &bottom, &red, &green, &blue);
+  if (read < 5 || x < left || x > right || y < top || y > bottom) return;
+  const bool onEdge = x == left || x == right || y == top || y == bottom;
+  if (read == 8) color = static_cast<Rgb>(red + 256 * green + 65536 * blue);
+  if (std::string_view(what.data()) == "focus" && onEdge && (x + y) / 15 % 2 == 0) color ^= 0xFFFFFF;
 }
 
 class HeadlessSubject : public Subject {
@@ -43,6 +58,49 @@ class HeadlessSubject : public Subject {
     return true;
   }
 
+  void mouse(Window& window, const std::string& picture, Mouse what, Twips x, Twips y) override {
+    headless::Picture& box = inner(window).picture(picture);
+    if (what == Mouse::move) box.movePointer(x, y);
+    if (what == Mouse::down || what == Mouse::rightDown) box.pressAt(x, y);
+    if (what == Mouse::up || what == Mouse::rightUp) box.releaseAt(x, y);
+  }
+
+  void mouseOnLabel(Window& window, const std::string& name, Mouse what, bool inside) override {
+    headless::Caption& label = inner(window).labelControl(name);
+    if (what == Mouse::move) label.movePointer();
+    if (what == Mouse::down) label.press();
+    if (what == Mouse::up) label.release(inside);
+  }
+
+  void pointAt(Window& window, const std::string& bar, const std::string& key) override {
+    inner(window).bar(bar).hover(key);
+  }
+
+  void pointAtForm(Window& window) override { inner(window).userMovesPointer(); }
+
+  void key(Window& window, const std::string& picture, Key key) override { inner(window).picture(picture).key(key); }
+
+  void keyInBar(Window& window, const std::string& bar, Key key) override { inner(window).bar(bar).key(key); }
+
+  void enter(Window& window, const std::string& textBox, const std::string& text) override {
+    inner(window).text(textBox).enter(text);
+  }
+
+  bool pressPart(Window& window, const std::string& picture, std::size_t part) override {
+    headless::Picture& box = inner(window).picture(picture);
+    const bool isWaiting = platform.windows.modal && platform.windows.modal != &window;
+    if (isWaiting || !window.isVisible() || !box.isVisible() || !box.parts || !box.pressPart) return false;
+    if (part >= box.parts().size()) return false;
+    box.pressPart(part);
+    return true;
+  }
+
+  void answerColorDialog(ColorAnswer answer, Rgb typed) override {
+    platform.boxes.colorAnswer = [answer, typed](Rgb start) {
+      return answer == ColorAnswer::cancel ? std::nullopt : std::optional(answer == ColorAnswer::own ? start : typed);
+    };
+  }
+
   void close(Window& window) override { inner(window).userCloses(); }
   void click(Window& window) override { inner(window).userClicks(); }
 
@@ -55,6 +113,22 @@ class HeadlessSubject : public Subject {
   }
 
   std::string captionOf(Window& window) override { return inner(window).caption; }
+
+  Rgb colorAt(Window& window, const std::string& picture, Twips x, Twips y) override {
+    Rgb color = -1;
+    for (const std::string& line : inner(window).picture(picture).draw()) draw(line, x.value, y.value, color);
+    return color;
+  }
+
+  std::string buttonsOf(Window& window, const std::string& bar) override {
+    std::string text;
+    for (const std::string& key : inner(window).bar(bar).keys()) {
+      const headless::Bar::Button& button = inner(window).bar(bar).button(key);
+      const std::string& name = button.accessibleName.empty() ? key : button.accessibleName;
+      text += button.state == buttonDown ? "[" + name + "]" : name;
+    }
+    return text;
+  }
 
   bool exists(WindowHandle window) override {
     return std::ranges::any_of(platform.windows.living, [&](FormWindow* form) { return form->handle() == window; });

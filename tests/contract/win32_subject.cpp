@@ -2,19 +2,25 @@
 
 #include <optional>
 #include <stdexcept>
+#include <thread>
 #include <utility>
 
 #include "platform/win32/button_bar.h"
 #include "platform/win32/combo_box.h"
 #include "platform/win32/desktop.h"
+#include "platform/win32/label.h"
+#include "platform/win32/picture_box.h"
 #include "platform/win32/prompts.h"
 #include "platform/win32/registry.h"
+#include "platform/win32/scale.h"
 #include "platform/win32/settings.h"
 #include "platform/win32/shell.h"
 #include "platform/win32/text.h"
+#include "platform/win32/text_box.h"
 #include "platform/win32/window.h"
 #include "tests/contract/contract_object.h"
 #include "tests/contract/subject.h"
+#include "tests/windows/bars/accessible_client.h"
 
 namespace nerida {
 namespace {
@@ -65,13 +71,17 @@ void CALLBACK runModalAction(HWND, UINT, UINT_PTR timer, DWORD) {
 class Win32Subject : public Subject {
  public:
   Win32Subject() {
+    CoInitialize(nullptr);  // for the accessible objects
     forget();
     HKEY key = nullptr;
     RegCreateKeyExW(HKEY_LOCAL_MACHINE, registryPath.c_str(), 0, nullptr, 0, KEY_READ | KEY_WOW64_32KEY, nullptr, &key,
                     nullptr);
     RegCloseKey(key);
   }
-  ~Win32Subject() override { forget(); }
+  ~Win32Subject() override {
+    forget();
+    CoUninitialize();
+  }
 
   Platform services() override { return {desktop, windows, prompts, registry, settings, shell}; }
 
@@ -93,6 +103,57 @@ class Win32Subject : public Subject {
     PostMessageW(list, WM_CHAR, static_cast<WPARAM>(entry.at(0)), 1);
     pump();
     return true;
+  }
+
+  void mouse(Window& window, const std::string& picture, Mouse what, Twips x, Twips y) override {
+    const HWND box = dynamic_cast<SystemPictureBox&>(window.pictureBox(picture)).window();
+    const Scale scale = Scale::ofScreen();
+    send(box, what, {scale.pixelsX(x), scale.pixelsY(y)});
+  }
+
+  void mouseOnLabel(Window& window, const std::string& label, Mouse what, bool inside) override {
+    const HWND caption = dynamic_cast<SystemLabel&>(window.label(label)).window();
+    send(caption, what, {inside ? 3 : -40, 3});
+  }
+
+  void pointAt(Window& window, const std::string& bar, const std::string& key) override {
+    const auto& pointed = dynamic_cast<SystemButtonBar&>(window.buttonBar(bar));
+    const auto area = areaOf(pointed, key);
+    if (!area) throw std::logic_error("no such button: " + key);
+    send(pointed.window(), Mouse::move, {(area->left + area->right) / 2, (area->top + area->bottom) / 2});
+  }
+
+  void pointAtForm(Window& window) override {
+    RECT client = {};
+    GetClientRect(windowOf(window), &client);
+    send(windowOf(window), Mouse::move, {client.right - 2, client.bottom - 2});
+  }
+
+  void key(Window& window, const std::string& picture, Key key) override {
+    SendMessageW(dynamic_cast<SystemPictureBox&>(window.pictureBox(picture)).window(), WM_KEYDOWN, codeOf(key), 1);
+  }
+
+  void keyInBar(Window& window, const std::string& bar, Key key) override {
+    SendMessageW(dynamic_cast<SystemButtonBar&>(window.buttonBar(bar)).window(), WM_KEYDOWN, codeOf(key), 1);
+  }
+
+  void enter(Window& window, const std::string& textBox, const std::string& text) override {
+    const HWND field = dynamic_cast<SystemTextBox&>(window.textBox(textBox)).window();
+    SetWindowTextW(field, L"");
+    for (const wchar_t character : wide(text)) SendMessageW(field, WM_CHAR, character, 1);
+    SendMessageW(field, WM_KEYDOWN, VK_RETURN, 1);
+    SendMessageW(field, WM_CHAR, VK_RETURN, 1);
+  }
+
+  bool pressPart(Window& window, const std::string& picture, std::size_t part) override {
+    const Accessible box(dynamic_cast<SystemPictureBox&>(window.pictureBox(picture)).window());
+    LONG count = 0;
+    box->get_accChildCount(&count);
+    return box.press(count == 0 ? CHILDID_SELF : static_cast<LONG>(part) + 1) == S_OK;
+  }
+
+  void answerColorDialog(ColorAnswer answer, Rgb typed) override {
+    user = std::jthread([answer, typed] { answerDialog(answer, typed); });
   }
 
   void close(Window& window) override {
@@ -121,6 +182,26 @@ class Win32Subject : public Subject {
     return utf8(text);
   }
 
+  Rgb colorAt(Window& window, const std::string& picture, Twips x, Twips y) override {
+    const HWND box = dynamic_cast<SystemPictureBox&>(window.pictureBox(picture)).window();
+    UpdateWindow(box);
+    const Scale scale = Scale::ofScreen();
+    const HDC dc = GetDC(box);
+    const COLORREF color = GetPixel(dc, scale.pixelsX(x), scale.pixelsY(y));
+    ReleaseDC(box, dc);
+    return static_cast<Rgb>(color);
+  }
+
+  std::string buttonsOf(Window& window, const std::string& bar) override {
+    const auto& asked = dynamic_cast<SystemButtonBar&>(window.buttonBar(bar));
+    std::string text;
+    for (int i = 0; i < asked.buttonCount(); ++i) {
+      const std::string name = utf8(asked.buttonName(i));
+      text += (asked.buttonStateFlags(i) & STATE_SYSTEM_PRESSED) != 0 ? "[" + name + "]" : name;
+    }
+    return text;
+  }
+
   bool exists(WindowHandle window) override { return IsWindow(reinterpret_cast<HWND>(window)) != FALSE; }
 
   void storeText(const std::string& name, const std::string& text) override {
@@ -135,6 +216,37 @@ class Win32Subject : public Subject {
   ObjectRef makeObject() override { return makeContractObject(); }
 
  private:
+  static void send(HWND target, Mouse what, POINT point) {
+    constexpr UINT messages[] = {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_RBUTTONDOWN, WM_LBUTTONUP, WM_RBUTTONUP};
+    SendMessageW(target, messages[static_cast<int>(what)], 0, place(point));
+  }
+
+  static WPARAM codeOf(Key key) {
+    constexpr WPARAM codes[] = {VK_LEFT, VK_RIGHT, VK_UP, VK_DOWN, VK_RETURN};
+    return codes[static_cast<int>(key)];
+  }
+
+  static HWND awaitDialog() {
+    for (int tries = 0; tries < 1000; ++tries, Sleep(10)) {
+      DWORD process = 0;
+      const HWND found = FindWindowW(L"#32770", nullptr);
+      if (found != nullptr && IsWindowVisible(found) && GetWindowThreadProcessId(found, &process) != 0 &&
+          process == GetCurrentProcessId()) {
+        return found;
+      }
+    }
+    return nullptr;
+  }
+
+  static void answerDialog(ColorAnswer answer, Rgb typed) {
+    const HWND dialog = awaitDialog();
+    constexpr int redField = 706;
+    for (int i = 0; answer == ColorAnswer::typed && i < 3; ++i) {
+      SetDlgItemInt(dialog, redField + i, static_cast<UINT>(typed >> (8 * i)) & 0xFF, FALSE);
+    }
+    PostMessageW(dialog, WM_COMMAND, answer == ColorAnswer::cancel ? IDCANCEL : IDOK, 0);
+  }
+
   static void store(const std::string& name, DWORD type, const void* data, std::size_t size) {
     HKEY key = nullptr;
     RegCreateKeyExW(HKEY_LOCAL_MACHINE, registryPath.c_str(), 0, nullptr, 0, KEY_SET_VALUE | KEY_WOW64_32KEY, nullptr,
@@ -156,6 +268,7 @@ class Win32Subject : public Subject {
   SystemRegistry registry;
   SystemSettings settings;
   SystemShell shell;
+  std::jthread user;
 };
 
 }  // namespace

@@ -221,6 +221,15 @@ TEST_F(LineThickness, OpenedByKeyboardStartsOnThePressedButton) {
   EXPECT_FALSE(panel().isTabStop) << "nothing shows that the panel has the focus";
 }
 
+TEST_F(LineThickness, TheKeyboardEntersTheBarAtThePressedButton) {
+  open(std::int16_t{110});
+  barThick().gotFocus();
+  EXPECT_EQ(barThick().focusedKey, "") << "nobody uses the keyboard";
+  platform.windows.focus.isShown = true;
+  barThick().gotFocus();
+  EXPECT_EQ(barThick().focusedKey, "Thick");
+}
+
 TEST_F(LineThickness, AScaleThatIsNoNumberIsLeftAlone) {
   open(std::int16_t{110});
   menu().HideSelf();

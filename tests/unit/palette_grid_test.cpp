@@ -212,6 +212,24 @@ TEST_F(PaletteGrid, MoreColorsLooksPressedWhileItIsHeldAndOpensWhereverItIsLetGo
   EXPECT_THAT(take(), testing::Contains(testing::StartsWith("color dialog")));
 }
 
+TEST_F(PaletteGrid, NothingStaysMarkedWhenThePointerHasLeft) {
+  explicitColor(255);
+  open();
+  window().mouseLeft();
+  EXPECT_THAT(frame(), ElementsAre(120, 1080, 375, 1335)) << "the pointer has not been there";
+  window().labelControl("lblMoreColors").movePointer();
+  take();
+  window().mouseLeft();
+  EXPECT_THAT(take(), ElementsAre("picMoreColors: repaint"));
+  EXPECT_FALSE(window().picture("picMoreColors").parts()[0].hot);
+  moveToCell(2, 2);
+  window().mouseLeft();
+  EXPECT_THAT(frame(), IsEmpty());
+  take();
+  panel().pressAt({0}, {0});
+  EXPECT_EQ(events(), "");
+}
+
 TEST_F(PaletteGrid, TheStylesLabelIsLeftWithoutAChoice) {
   open();
   window().labelControl("lblLSColor").pressAndLeave();

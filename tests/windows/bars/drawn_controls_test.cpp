@@ -150,6 +150,7 @@ TEST_F(DrawnControls, PassALabelsMouseOn) {
   label.mouseMove = [this] { note("over"); };
   label.mouseDown = [this] { note("down"); };
   label.mouseUp = [this] { note("up"); };
+  label.click = [this] { note("click"); };
   const HWND target = at(110, 5);
   EXPECT_EQ(SendMessageW(target, WM_NCHITTEST, 0, 0), HTCLIENT);
   send(target, WM_MOUSEMOVE, 5, 5);
@@ -157,7 +158,7 @@ TEST_F(DrawnControls, PassALabelsMouseOn) {
   send(target, WM_LBUTTONUP, 5, 5);
   send(target, WM_LBUTTONDOWN, 5, 5);
   send(target, WM_LBUTTONUP, -50, 5);
-  EXPECT_EQ(heard, (Keys{"over", "down", "up", "down"}));
+  EXPECT_EQ(heard, (Keys{"over", "down", "up", "click", "down", "up"}));
 }
 
 TEST_F(DrawnControls, LayAnUprightBarOutFromTopToBottomInTheGivenOrder) {

@@ -29,6 +29,13 @@ Class Model
     Fields("AnimationState") = False
     Fields("IsToolbarShowing") = False
     Fields("IsCatalogShowing") = False
+    Fields("IsSurfaceColorDefault") = True
+    Fields("IsLineColorDefault") = True
+    Fields("IsBackgroundDefault") = True
+    Fields("SurfaceColor") = 0
+    Fields("LineColor") = 0
+    Fields("BackgroundColor") = 0
+    Fields("LineThicknessScale") = 100
   End Sub
   Public Sub Assign(name, value)
     Fields(name) = value
@@ -40,6 +47,14 @@ Class Model
   Private Sub Write(member, value)
     Note member & " :=", Typed(value)
     Fields(member) = value
+  End Sub
+  Private Sub Paint(member, flag, value)
+    Write member, value
+    Fields(flag) = False
+  End Sub
+  Private Sub Unpaint(member, flag)
+    Note member, ""
+    Fields(flag) = True
   End Sub
 
   Public Property Get ModelName : ModelName = Read("ModelName") : End Property
@@ -59,6 +74,21 @@ Class Model
   Public Property Get IsCatalogShowing : IsCatalogShowing = Read("IsCatalogShowing") : End Property
   Public Property Let IsCatalogShowing(value) : Write "IsCatalogShowing", value : End Property
   Public Property Let DoneShowingModelCatalog(value) : Note "DoneShowingModelCatalog :=", Typed(value) : End Property
+
+  Public Property Get IsSurfaceColorDefault : IsSurfaceColorDefault = Read("IsSurfaceColorDefault") : End Property
+  Public Property Get SurfaceColor : SurfaceColor = Read("SurfaceColor") : End Property
+  Public Property Let SurfaceColor(value) : Paint "SurfaceColor", "IsSurfaceColorDefault", value : End Property
+  Public Sub RestoreDefaultSurfaceColor : Unpaint "RestoreDefaultSurfaceColor", "IsSurfaceColorDefault" : End Sub
+  Public Property Get IsLineColorDefault : IsLineColorDefault = Read("IsLineColorDefault") : End Property
+  Public Property Get LineColor : LineColor = Read("LineColor") : End Property
+  Public Property Let LineColor(value) : Paint "LineColor", "IsLineColorDefault", value : End Property
+  Public Sub RestoreDefaultLineColor : Unpaint "RestoreDefaultLineColor", "IsLineColorDefault" : End Sub
+  Public Property Get IsBackgroundDefault : IsBackgroundDefault = Read("IsBackgroundDefault") : End Property
+  Public Property Get BackgroundColor : BackgroundColor = Read("BackgroundColor") : End Property
+  Public Property Let BackgroundColor(value) : Paint "BackgroundColor", "IsBackgroundDefault", value : End Property
+  Public Sub RestoreDefaultBackgroundColor : Unpaint "RestoreDefaultBackgroundColor", "IsBackgroundDefault" : End Sub
+  Public Property Get LineThicknessScale : LineThicknessScale = Read("LineThicknessScale") : End Property
+  Public Property Let LineThicknessScale(value) : Write "LineThicknessScale", value : End Property
 
   Public Sub GetLookStyleList(first, second, third)
     Note "GetLookStyleList", ""

@@ -54,6 +54,25 @@ class SessionCase(unittest.TestCase):
     def setUp(self):
         self.client.forget()
 
+    def popup(self):
+        """The popup that is open, or nothing."""
+        forms = self.probe.windows(class_name=self.toolbar["class"])
+        return next((w for w in forms if w["window"] != self.toolbar["window"]), None)
+
+    def openPopup(self, button):
+        """By a press of its button; the window, once it is there."""
+        self.click(button)
+        return wait_for(self.popup, what=f"the popup of {button!r}")
+
+    def waitForNoPopup(self):
+        wait_for(lambda: self.popup() is None, what="the popup to close")
+
+    def part(self, name):
+        return self.probe.element(self.popup(), name, PUSH_BUTTON)
+
+    def partsIn(self, state):
+        return [e["name"] for e in self.probe.elements(self.popup()) if e["role"] == PUSH_BUTTON and e["state"] & state]
+
     def height(self):
         _, top, _, bottom = self.probe.describe(self.toolbar)["rect"]
         return bottom - top
