@@ -2,7 +2,9 @@
 
 import subprocess
 import time
+from dataclasses import replace
 
+from popup_case import BACKGROUND, FILL, LINE, PopupCase
 from session_case import HOT, PRESSED, PUSH_BUTTON, SCREENS, SessionCase, desktop, main, programs, wait_for
 
 from tests.windows.session.client import Client
@@ -64,8 +66,8 @@ class PaletteCase(SessionCase):
     def explicit(self, color):
         self.client.set(IsSurfaceColorDefault=False, SurfaceColor=color)
 
-    def clickPart(self, name):
-        desktop.click(desktop.centre(self.part(name)["rect"]))
+    def press(self, name):
+        self.probe.press(self.part(name))
 
     def assertChosen(self, *told):
         self.assertTold(*told)
@@ -101,22 +103,6 @@ class Cells(PaletteCase):
                 self.assertEqual(["Aqua"], self.partsIn(PRESSED))
                 desktop.key("Escape")
                 self.waitForNoPopup()
-
-    def test_choice_by_mouse(self):
-        for button, (_, color) in ROLES.items():
-            for name, value in (("Black", 0), ("Gray-80%", rgb(51, 51, 51)), ("Rose", rgb(255, 153, 204)),
-                                ("White", rgb(255, 255, 255))):
-                with self.subTest(button=button, color=name):
-                    self.open(button)
-                    self.clickPart(name)
-                    self.assertTold(f"{color} := Long {value}")
-                    self.waitForNoPopup()
-                    self.waitForState(button, PRESSED, False)
-
-    def test_choice_by_any_mouse_button(self):
-        self.open()
-        desktop.click(desktop.centre(self.part("Lime")["rect"]), button=3)
-        self.assertChosen(f"SurfaceColor := Long {rgb(153, 204, 0)}")
 
     def test_choice_by_default_action(self):
         self.open()
@@ -188,19 +174,20 @@ class Cells(PaletteCase):
         self.assertEqual(["Recent color 8"], self.partsIn(PRESSED))
 
     def test_refused_color_is_reported_and_the_palette_stays(self):
+        self.clear()
         self.open()
         self.client.do("raise", "SurfaceColor :=", 5)
         self.client.forget()
-        self.clickPart("Gold")
+        desktop.key("Down", "space")  # the first key shows the place
         box = self.probe.window(class_name=DIALOG)
         self.assertIn(ERROR, [e["name"] for e in self.probe.elements(box)])
         self.waitForFront(box)
         desktop.key("Return")
         self.probe.gone(class_name=DIALOG)
-        self.assertTold(f"SurfaceColor := Long {rgb(255, 204, 0)}")
+        self.assertTold("SurfaceColor := Long 0")
         self.assertTrue(self.popup())
         self.client.forget()
-        self.clickPart("Teal")
+        self.press("Teal")
         self.assertChosen(f"SurfaceColor := Long {rgb(0, 128, 128)}")
 
 
@@ -213,15 +200,6 @@ class StyleDefault(PaletteCase):
         self.assertChosen("RestoreDefaultSurfaceColor")
         self.open()
         self.assertEqual(["LookStyle Default"], self.partsIn(PRESSED))
-
-    def entry(self):
-        return self.part("LookStyle Default")["rect"]
-
-    def test_by_its_swatch(self):
-        self.choose(lambda: desktop.click((self.entry()[0] + 9, self.entry()[1] + 11)))
-
-    def test_by_its_label(self):
-        self.choose(lambda: desktop.click(desktop.centre(self.entry())))
 
     def test_by_default_action(self):
         self.choose(lambda: self.probe.press(self.part("LookStyle Default")))
@@ -246,10 +224,9 @@ class StyleDefault(PaletteCase):
 
 
 class MoreColors(PaletteCase):
-    def dialog(self, way=None):
+    def dialog(self):
         self.open()
-        way = way or (lambda: self.clickPart("More Colors"))
-        way()
+        desktop.key("Tab", "space")
         dialog = self.probe.window(class_name=DIALOG)
         self.waitForFront(dialog)
         self.assertTrue(self.popup(), "the palette stays below its dialog")
@@ -275,26 +252,8 @@ class MoreColors(PaletteCase):
             desktop.key("Escape")
             self.waitForNoPopup()
         self.open("Line Color")
-        self.clickPart("Recent color 1")
+        self.press("Recent color 1")
         self.assertTold(f"LineColor := Long {rgb(18, 52, 86)}")
-
-    def test_ways_in(self):
-        def label():
-            desktop.click(desktop.centre(self.part("More Colors")["rect"]))
-
-        def swatch():
-            left, top, _, bottom = self.part("More Colors")["rect"]
-            desktop.click((left + 9, (top + bottom) // 2))
-
-        def keyboard():
-            desktop.key("Tab", "space")
-
-        for way in (label, swatch, keyboard):
-            with self.subTest(way.__name__):
-                self.dialog(way)
-                desktop.key("Escape")
-                self.probe.gone(class_name=DIALOG)
-                self.assertChosen()
 
     def test_cancelled_dialog_only_closes(self):
         dialog = self.dialog()
@@ -341,7 +300,7 @@ class Restarted(PaletteCase):
 
     def chosen(self, slot):
         self.open()
-        self.clickPart(RECENT[slot])
+        self.press(RECENT[slot])
         told = self.client.told(1)
         self.waitForNoPopup()
         return told
@@ -355,7 +314,7 @@ class Restarted(PaletteCase):
         for slot, color in enumerate(expected):
             self.assertEqual([f"SurfaceColor := Long {color}"], self.chosen(slot), RECENT[slot])
         self.open("Line Color")
-        self.clickPart("More Colors")
+        desktop.key("Tab", "space")
         dialog = self.probe.window(class_name=DIALOG)
         self.waitForFront(dialog)
         desktop.key("Return")  # the dialog's own colour: that of the line
@@ -367,6 +326,32 @@ class Restarted(PaletteCase):
         self.restart()
         for slot in (0, 1):
             self.assertEqual([f"SurfaceColor := Long {expected[slot]}"], self.chosen(slot), RECENT[slot])
+
+
+class ByMouse(PopupCase):
+    """In a document, whose window takes over when a palette that was clicked goes."""
+
+    def pointed(self, popup, name, **how):
+        window = self.open(popup)
+        desktop.click(desktop.centre(self.probe.element(window, name, PUSH_BUTTON)["rect"]), **how)
+
+    def assertChosen(self, popup, *calls):
+        wait_for(lambda: not self.popups(), what="the palette to close")
+        self.settled()
+        self.assertEqual(list(calls), self.host.calls())
+        self.assertFalse(self.is_latched(popup))
+
+    def test_any_button_chooses_the_cell_and_the_entry_gives_it_back(self):
+        for popup in (FILL, BACKGROUND, LINE):
+            for name, color, button in (("Gray-80%", rgb(51, 51, 51), 1), ("White", rgb(255, 255, 255), 3)):
+                with self.subTest(palette=popup.button, color=name):
+                    member = ROLES[popup.button][1]
+                    self.setUp()
+                    self.pointed(popup, name, button=button)
+                    self.assertChosen(popup, f"let {member} = {color}")
+                    popup = replace(popup, asked=[*popup.asked, f"get {member}"])
+                    self.pointed(popup, "LookStyle Default")
+                    self.assertChosen(popup, f"RestoreDefault{member}()")
 
 
 if __name__ == "__main__":
