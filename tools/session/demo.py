@@ -2,75 +2,19 @@
 and one picture under out/demo/."""
 
 import sys
-import time
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[1]))
-from session import desktop  # noqa: E402
-from session.host import Host  # noqa: E402
-from session.probe import ROOT, Probe, wait_for  # noqa: E402
-
-PICTURES = ROOT / "out" / "demo"
-# What the library only asks is not worth a line of the demonstration.
-QUIET = ("get ",)
+from session import desktop, demo_popups  # noqa: E402
+from session.tour import PICTURES, Tour  # noqa: E402
 
 
-class Demo:
-    def __init__(self, model):
-        self.probe = Probe()
-        self.host = Host(model)
-        self.document = self.probe.window("Zephra Document", timeout=30)
-        self.step = 0
-
-    def show(self, what, calls=()):
-        """The line and the picture of a step."""
-        self.step += 1
-        time.sleep(0.4)  # let the eye see the end of it: hover, tooltips and redraws settle
-        told = [call for call in calls if not call.startswith(QUIET)]
-        print(f"  {self.step:2}. {what}" + (f"  —  {'; '.join(told)}" if told else ""), flush=True)
-        name = "".join(c if c.isalnum() else "-" for c in what.lower()).strip("-")
-        desktop.picture(PICTURES / f"{self.step:02}-{name}.png")
-
-    def toolbar(self):
-        return self.probe.window("Zephra Toolbar")
-
-    def place_of(self, button):
-        return desktop.centre(self.probe.element(self.toolbar(), button)["rect"])
-
-    def press(self, button, expected, times=1):
-        for _ in range(times):
-            desktop.click(self.place_of(button))
-            time.sleep(0.15)
-        return self.host.wait_for_call(expected)
-
-    def object_centre(self):
-        left, top, right, bottom = self.document["rect"]
-        return (left + right) // 2, (top + bottom) // 2
-
-    def activate(self):
-        desktop.click(self.object_centre(), count=2)
-        self.toolbar()
-        return self.host.wait_for_call("let IsToolbarShowing = True")
-
-    def unfold(self, height):
-        desktop.click(self.place_of("Model Orientation"))
-        wait_for(lambda: self.height() == height, what="the toolbar to fold")
-
-    def height(self):
-        _, top, _, bottom = self.toolbar()["rect"]
-        return bottom - top
-
+class Demo(Tour):
     def choose_preset(self, letter):
         desktop.click(self.place_of("PresetDropdown"))
         self.probe.window(class_name="#32768")
         self.show("Open the menu of preset views")
         desktop.key(letter)
-        return self.host.wait_for_call("RefreshDisplay")
-
-    def choose_style(self, downs):
-        desktop.click(self.place_of("Select a new LookStyle"))
-        desktop.key(*["Down"] * downs)
-        desktop.key("Return")
         return self.host.wait_for_call("RefreshDisplay")
 
     def other_program(self):
@@ -84,10 +28,8 @@ class Demo:
 
     def run(self):
         self.show("Open the document")
-        folded = None
         self.show("Double-click the object: the toolbar appears", self.activate())
-        folded = self.height()
-        self.unfold(folded + 27)
+        self.unfold()
         self.show("Unfold the movement group")
         self.show("Tilt left", self.press("Tilt Left", "RotateY", 3))
         self.show("Tilt up", self.press("Tilt Up", "RotateX", 2))
@@ -98,17 +40,13 @@ class Demo:
         self.show("Tilt clockwise", self.press("Tilt Clockwise", "RotateZ"))
         self.show("Choose the next style", self.choose_style(1))
         self.show("Choose another style", self.choose_style(1))
-        self.unfold(folded)
+        self.unfold()
         self.show("Fold the movement group away")
+        demo_popups.run(self)
         self.other_program()
         desktop.click((self.document["rect"][0] + 20, self.document["rect"][3] - 60))
         self.probe.gone("Zephra Toolbar")
         self.show("Click beside the object: editing ends", self.host.calls())
-
-    def close(self):
-        self.probe.ask("post", self.document["window"], 0x10, 0, 0)
-        self.host.process.wait(timeout=20)
-        self.probe.close()
 
 
 def main():

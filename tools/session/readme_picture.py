@@ -1,0 +1,47 @@
+"""The README's picture: a model in chosen colours, and a palette open below the toolbar."""
+
+import sys
+import time
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[1]))
+from session import desktop  # noqa: E402
+from session.demo_popups import choose  # noqa: E402
+from session.tour import Tour  # noqa: E402
+
+PLACE = (60, 4, 900, 1000)
+MARGIN = 28  # pixels of the page around the object
+OBJECT_HEIGHT = 540  # with its name and the margin above
+
+
+def area(tour, palette):
+    """From the object to the palette. The object is as wide as the page's column, and the toolbar stands at its left."""
+    left, top, _, _ = tour.toolbar()["rect"]
+    document_left, _, document_right, _ = tour.document["rect"]
+    right = document_left + document_right - left
+    below = tour.probe.describe(palette)["rect"][3]
+    return left - MARGIN, top - OBJECT_HEIGHT, right + MARGIN, below + MARGIN // 2
+
+
+def main():
+    model, picture = sys.argv[1:]
+    tour = Tour(model, PLACE)
+    tour.activate()
+    tour.unfold()
+    tour.press("Tilt Left", "RotateY", 5)
+    tour.press("Tilt Up", "RotateX")
+    tour.press("Increase Model Size", "ScaleModel")
+    tour.unfold()
+    tour.choose_style(2)
+    choose(tour, tour.open_popup("Background Options"), "Light Turquoise", "let BackgroundColor")
+    choose(tour, tour.open_popup("Line Color"), "Dark Blue", "let LineColor")
+    palette = tour.open_popup("Background Options")
+    desktop.move(tour.place_in(palette, "Light Yellow"))
+    time.sleep(1.5)  # until the colour's name shows
+    desktop.picture(picture, area(tour, palette))
+    desktop.key("Escape")
+    tour.close()
+
+
+if __name__ == "__main__":
+    main()
