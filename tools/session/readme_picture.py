@@ -6,7 +6,6 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[1]))
 from session import desktop  # noqa: E402
-from session.demo_popups import choose  # noqa: E402
 from session.tour import Tour  # noqa: E402
 
 PLACE = (60, 4, 900, 1000)
@@ -33,8 +32,8 @@ def main():
     tour.press("Increase Model Size", "ScaleModel")
     tour.unfold()
     tour.choose_style(2)
-    choose(tour, tour.open_popup("Background Options"), "Light Turquoise", "let BackgroundColor")
-    choose(tour, tour.open_popup("Line Color"), "Dark Blue", "let LineColor")
+    tour.choose(tour.place_in(tour.open_popup("Background Options"), "Light Turquoise"), "let BackgroundColor")
+    tour.choose(tour.place_in(tour.open_popup("Line Color"), "Dark Blue"), "let LineColor")
     palette = tour.open_popup("Background Options")
     desktop.move(tour.place_in(palette, "Light Yellow"))
     time.sleep(1.5)  # until the colour's name shows

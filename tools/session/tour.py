@@ -37,8 +37,9 @@ class Tour:
         return desktop.centre(self.probe.element(self.toolbar(), button)["rect"])
 
     def press(self, button, expected, times=1):
+        place = self.place_of(button)
         for _ in range(times):
-            desktop.click(self.place_of(button))
+            desktop.click(place)
             time.sleep(0.15)
         return self.host.wait_for_call(expected)
 
@@ -79,6 +80,10 @@ class Tour:
 
     def place_in(self, popup, name):
         return desktop.centre(self.probe.element(popup, name)["rect"])
+
+    def choose(self, place, expected):
+        desktop.click(place)
+        return self.host.wait_for_call(expected)
 
     def close(self):
         self.probe.ask("post", self.document["window"], 0x10, 0, 0)
