@@ -10,7 +10,7 @@ from session.tour import Tour  # noqa: E402
 
 PLACE = (60, 4, 900, 1000)
 MARGIN = 28  # pixels of the page around the object
-OBJECT_HEIGHT = 540  # with its name and the margin above
+OBJECT_HEIGHT = 534  # with its name and the margin above
 
 
 def area(tour, palette):
