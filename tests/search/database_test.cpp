@@ -95,6 +95,13 @@ TEST(ModelDatabase, ChangesInPlace) {
   for (const char* gone : {"swan", "wood", "table", "wat", "tablle"}) EXPECT_THAT(sample.find(gone), IsEmpty()) << gone;
 }
 
+TEST(ModelDatabase, ForgetsTheWordsOfRemovedModels) {
+  const Sample sample({card(1, "Rose"), card(2, "Rosw")});
+  EXPECT_THAT(sample.find("rosw"), ElementsAre("Rosw"));
+  changeDatabase(sample.path(), {}, {2});
+  EXPECT_THAT(sample.find("rosw"), ElementsAre("Rose")) << "a word that nothing has is a misspelt one";
+}
+
 TEST(ModelDatabase, IsTheSameWhetherItIsBuiltOrChanged) {
   const Sample built(numberedCards(300)), changed({});
   for (const ModelCard& one : numberedCards(300)) changeDatabase(changed.path(), {one});
@@ -154,17 +161,16 @@ TEST(ModelDatabase, ThatIsLockedForAMomentIsWaitedFor) {
   const Sample sample({swan});
   Database other = Database::open(sample.database());
   other.run("BEGIN EXCLUSIVE");
-  std::thread release([&] {
+  const std::jthread release([&] {
     std::this_thread::sleep_for(std::chrono::milliseconds(300));
     other.run("ROLLBACK");
   });
   EXPECT_THAT(sample.find("swan"), ElementsAre(swan.name));
-  release.join();
 }
 
 TEST(ModelDatabase, IsSearchedWhileModelsAreAdded) {
   const Sample sample(numberedCards(50));
-  std::thread adding([&] {
+  const std::jthread adding([&] {
     for (std::int32_t i = 51; i <= 110; ++i) changeDatabase(sample.path(), {card(i, "Thing " + std::to_string(i))});
     buildDatabase(sample.path(), numberedCards(150));
   });
@@ -174,7 +180,6 @@ TEST(ModelDatabase, IsSearchedWhileModelsAreAdded) {
     ASSERT_GE(found, before) << "a search saw half of a change";
     before = found;
   }
-  adding.join();
 }
 
 // What a killed program leaves behind: its change in the file already, and the journal that takes it back.
