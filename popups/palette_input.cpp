@@ -16,14 +16,19 @@ void ColorPalette::connectEvents() {
   connectStyleDefault();
 }
 
+// A choice that the model refuses is reported, and the message must not close the palette: it stays for another one.
 void ColorPalette::connectGrid() {
   PictureBox& panel = picture("pnlColor");
   panel.paint = [this](Canvas& canvas) { paintPanel(canvas); };
   panel.mouseMove = [this](Twips x, Twips y) { handle(messages, [&] { pnlColor_MouseMove(x, y); }); };
-  panel.mouseDown = [this](Twips x, Twips y) { handle(messages, [&] { pnlColor_MouseDown(x, y); }); };
+  panel.mouseDown = [this](Twips x, Twips y) {
+    const FocusGuard staysOpen(*this);
+    handle(messages, [&] { pnlColor_MouseDown(x, y); });
+  };
   panel.keyDown = [this](Key key) { return pnlColor_KeyDown(key); };
   panel.parts = [this] { return cells(); };
   panel.pressPart = [this](std::size_t part) {
+    const FocusGuard staysOpen(*this);
     handle(messages, [&] { chooseCell(cellOfIndex(static_cast<int>(part))); });
   };
   connectFocus(panel, Focus::grid);
@@ -51,7 +56,10 @@ void ColorPalette::connectMoreColors() {
 void ColorPalette::connectStyleDefault() {
   PictureBox& box = picture("picLSSwatch");
   Label& label = loadedWindow().label("lblLSColor");
-  const auto choose = [this] { handle(messages, [this] { chooseStyleDefault(); }); };
+  const auto choose = [this] {
+    const FocusGuard staysOpen(*this);
+    handle(messages, [this] { chooseStyleDefault(); });
+  };
   label.mouseMove = [this] { enterEntry(styleRow); };
   label.click = choose;
   box.paint = [this](Canvas& canvas) { paintStyleEntry(canvas, lookOf(styleRow), styleColorShown, pixel()); };
@@ -125,6 +133,7 @@ void ColorPalette::repaintEntry(std::int16_t row) {
 // Where nothing showed yet where the keyboard is, the first key shows it. The place of the pointer is forgotten: the
 // mouse takes over again as soon as it moves.
 bool ColorPalette::pnlColor_KeyDown(Key key) {
+  const FocusGuard staysOpen(*this);
   handle(messages, [&] {
     const bool wasVisible = std::exchange(keysInUse, true) || hovered.column >= 0;
     const Cell cell = wasVisible ? cellBeside(keyboardCell(), key) : keyboardCell();
