@@ -158,6 +158,9 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CLOSE:
       raise(closeRequested);
       return 0;
+    case WM_WINDOWPOSCHANGING:
+      keepPlace(*reinterpret_cast<WINDOWPOS*>(lParam));
+      break;
     case WM_SHOWWINDOW:
       if (wParam == FALSE) endModal();
       break;
@@ -188,6 +191,17 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
   }
   return DefWindowProcW(hwnd, message, wParam, lParam);
+}
+
+// While a window manager of Wine's desktop takes a new window over, the window seems to lie in the corner of the screen
+// for a moment. What believed that would take no click any more where it is seen.
+void FormWindow::keepPlace(WINDOWPOS& change) {
+  constexpr UINT report = SWP_NOZORDER | SWP_NOACTIVATE;
+  constexpr ULONGLONG takingOver = 2000;  // milliseconds
+  if ((change.flags & SWP_SHOWWINDOW) != 0) shownAt = GetTickCount64();
+  const bool isReport = (change.flags & (report | SWP_NOMOVE)) == report && !InSendMessage();
+  const bool isNew = GetTickCount64() - shownAt < takingOver;
+  if (isReport && isNew && change.x == 0 && change.y == 0) change.flags |= SWP_NOMOVE;
 }
 
 // Who came to one of our forms by keyboard goes on by keyboard in the next one.

@@ -117,6 +117,7 @@ class FormWindow final : public Window {
   void paintWithControls();
   void drawControls(HDC target);
   LRESULT callHook(const WindowProcedure& procedure, const Message& message);
+  void keepPlace(WINDOWPOS& change);
   bool awaitsFocus(const Message& message);
   void paintOutline();
   void onActivate(bool active, HWND before);
@@ -147,6 +148,7 @@ class FormWindow final : public Window {
   int rowsHave = 1;
   HWND lastFocus = nullptr;
   std::optional<POINT> lastPointer;  // on the screen
+  ULONGLONG shownAt = 0;             // in the system's milliseconds
   bool focusShown = false;
   bool clickStarted = false;
 
