@@ -12,10 +12,22 @@ std::string standardErrorText(std::int32_t number) {
       {error::overflow, "Overflow"},
       {error::outOfMemory, "Out of memory"},
       {error::subscriptOutOfRange, "Subscript out of range"},
+      {11, "Division by zero"},
       {error::typeMismatch, "Type mismatch"},
       {error::outOfStackSpace, "Out of stack space"},
+      {51, "Internal error"},
       {error::fileNotFound, "File not found"},
+      {57, "Device I/O error"},
+      {70, "Permission denied"},
+      {75, "Path/File access error"},
+      {76, "Path not found"},
       {error::objectNotSet, "Object variable or With block variable not set"},
+      {94, "Invalid use of Null"},
+      {380, "Invalid property value"},
+      {381, "Invalid property array index"},
+      {383, "Set not supported (read-only property)"},
+      {394, "Get not supported (write-only property)"},
+      {424, "Object required"},
       {error::cannotCreateObject, "ActiveX component can't create object"},
       {error::noInterface, "Class does not support Automation or does not support expected interface"},
       {error::noSuchMember, "Object doesn't support this property or method"},
@@ -26,7 +38,8 @@ std::string standardErrorText(std::int32_t number) {
   for (const Row& row : rows) {
     if (row.number == number) return row.text;
   }
-  return "Automation error";
+  const bool isOwn = number > 0 && number <= 0xFFFF;
+  return isOwn ? "Application-defined or object-defined error" : "Automation error";
 }
 
 }  // namespace nerida

@@ -25,7 +25,8 @@ inline constexpr std::int32_t argumentNotOptional = 449;
 inline constexpr std::int32_t wrongArgumentCount = 450;
 }  // namespace error
 
-// The standard text of an error number; "Automation error" for numbers that have none of their own.
+// The standard text of an error number. Those of 16 bits that have none are an application's own; others are status
+// codes, which are an "Automation error".
 std::string standardErrorText(std::int32_t number);
 
 // A failed operation: a run-time error number and its description. The only exception type of the library.

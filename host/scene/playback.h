@@ -33,7 +33,7 @@ class Playback {
   double rate = 24;
   double due = 0;  ///< part of a frame that has passed already
   bool isPlaying = false;
-  bool isLooping = false;
+  bool isLooping = true;
   bool timerRuns = true;
 };
 

@@ -94,6 +94,7 @@ void SystemButtonBar::showLayout(const std::string& name) {
   form().tooltips().forget(window());
   InvalidateRect(window(), nullptr, FALSE);
   NotifyWinEvent(EVENT_OBJECT_REORDER, window(), OBJID_CLIENT, CHILDID_SELF);
+  if (tracking) findHot();
   if (GetFocus() == window()) stepFocus(1);  // the keyboard stays here, on one of the new buttons
 }
 

@@ -98,6 +98,7 @@ class SystemButtonBar final : public ControlOf<ButtonBar>, private ControlParts 
   void onButtonUp(POINT point);
   void cancelPress();
   void setHot(int index);
+  void findHot();
   bool onKey(WPARAM key, LPARAM flags);
   bool raiseArrowKey(WPARAM key);
   void stepFocus(int direction);

@@ -83,6 +83,16 @@ void SystemButtonBar::setHot(int index) {
   announce(EVENT_OBJECT_STATECHANGE, index);
 }
 
+// Below a pointer that rests there is another button.
+void SystemButtonBar::findHot() {
+  POINT pointer = {};
+  GetCursorPos(&pointer);
+  if (WindowFromPoint(pointer) != window()) return;
+  ScreenToClient(window(), &pointer);
+  const int under = buttonAt(pointer);
+  setHot(isUsable(under) ? under : none);
+}
+
 void SystemButtonBar::onMouseMove(POINT point) {
   if (!tracking) {
     TRACKMOUSEEVENT request = {sizeof request, TME_LEAVE, window(), 0};

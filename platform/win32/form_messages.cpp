@@ -219,7 +219,12 @@ void FormWindow::pointerLeft() {
   POINT pointer = {};
   GetCursorPos(&pointer);
   const HWND under = WindowFromPoint(pointer);
-  if (under == hwnd || IsChild(hwnd, under)) return;
+  POINT inside = pointer;
+  ScreenToClient(hwnd, &inside);
+  RECT client = {};
+  GetClientRect(hwnd, &client);
+  // Of its frame the form is told no moves.
+  if (IsChild(hwnd, under) || (under == hwnd && PtInRect(&client, inside))) return;
   lastPointer.reset();
   raise(mouseLeft);
 }

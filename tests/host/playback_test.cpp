@@ -53,8 +53,9 @@ TEST(Playback, smallTicksAddUp) {
   EXPECT_EQ(playback.currentFrame(), 5);
 }
 
-TEST(Playback, itStopsOnTheLastFrame) {
+TEST(Playback, playedOnceItStopsOnTheLastFrame) {
   Playback playback = tenFrames();
+  playback.setLooping(false);
   playback.setPlaying(true);
   EXPECT_TRUE(playback.tick(5));
   EXPECT_EQ(playback.currentFrame(), 9);
@@ -62,9 +63,9 @@ TEST(Playback, itStopsOnTheLastFrame) {
   EXPECT_FALSE(playback.tick(5));
 }
 
-TEST(Playback, aLoopStartsOver) {
+TEST(Playback, unlessToldOtherwiseItStartsOver) {
   Playback playback = tenFrames();
-  playback.setLooping(true);
+  EXPECT_TRUE(playback.looping());
   playback.setPlaying(true);
   EXPECT_TRUE(playback.tick(1.25));
   EXPECT_EQ(playback.currentFrame(), 2);

@@ -70,6 +70,10 @@ INSTANTIATE_TEST_SUITE_P(Numbers, ErrorText,
                                          TextCase{91, "Object variable or With block variable not set"},
                                          TextCase{429, "ActiveX component can't create object"},
                                          TextCase{438, "Object doesn't support this property or method"},
+                                         TextCase{94, "Invalid use of Null"}, TextCase{380, "Invalid property value"},
+                                         TextCase{1234, "Application-defined or object-defined error"},
+                                         TextCase{65535, "Application-defined or object-defined error"},
+                                         TextCase{65536, "Automation error"}, TextCase{0, "Automation error"},
                                          TextCase{-2147467259, "Automation error"}));
 
 }  // namespace

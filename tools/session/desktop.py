@@ -50,15 +50,25 @@ def type_text(text):
     _run("xdotool", "type", "--delay", 30, text)
 
 
-def picture(path, area=None):
-    """Saves the screen, or the area (left, top, right, bottom) of it, as PNG."""
-    path = Path(path)
-    path.parent.mkdir(parents=True, exist_ok=True)
+def _import(area, target):
+    """The command that reads the screen, or the area (left, top, right, bottom) of it."""
     crop = []
     if area:
         left, top, right, bottom = area
         crop = ["-crop", f"{right - left}x{bottom - top}+{left}+{top}"]
-    _run("import", "-window", "root", *crop, "+repage", path)
+    return ["import", "-window", "root", *crop, "+repage", "-depth", "8", str(target)]
+
+
+def picture(path, area=None):
+    """Saves the screen, or an area of it, as PNG."""
+    path = Path(path)
+    path.parent.mkdir(parents=True, exist_ok=True)
+    _run(*_import(area, path))
+
+
+def pixels(area):
+    """An area of the screen as it is now: three bytes a pixel, row by row."""
+    return subprocess.run(_import(area, "rgb:-"), check=True, stdin=subprocess.DEVNULL, capture_output=True).stdout
 
 
 class OtherProgram:

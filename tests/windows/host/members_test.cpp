@@ -253,10 +253,10 @@ TEST_F(Members, timerRunsWhileTheAnimationPlays) {
   EXPECT_EQ(site.animations, 5);
 }
 
-TEST_F(Members, animationRepeatsWhenAsked) {
-  EXPECT_FALSE(flagOf(L"AnimationLoopState"));
-  EXPECT_EQ(let(L"AnimationLoopState", Value::boolean(true)).status, S_OK);
+TEST_F(Members, animationRepeatsUnlessAskedNotTo) {
   EXPECT_TRUE(flagOf(L"AnimationLoopState"));
+  EXPECT_EQ(let(L"AnimationLoopState", Value::boolean(false)).status, S_OK);
+  EXPECT_FALSE(flagOf(L"AnimationLoopState"));
 }
 
 }  // namespace

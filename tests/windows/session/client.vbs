@@ -27,6 +27,12 @@ Class Model
     Fields("AnimationFrameCount") = 0
     Fields("AnimationCurrentFrame") = 0
     Fields("AnimationState") = False
+    Fields("AnimationLoopState") = True
+    Fields("LightIsOn") = True
+    Fields("LightX") = 0
+    Fields("LightY") = 0
+    Fields("LightZ") = 100
+    Fields("LightStatus") = 0
     Fields("IsToolbarShowing") = False
     Fields("IsCatalogShowing") = False
     Fields("IsSurfaceColorDefault") = True
@@ -61,6 +67,26 @@ Class Model
   Public Property Get InterfaceFlags : InterfaceFlags = Read("InterfaceFlags") : End Property
   Public Property Get AnimationFrameCount : AnimationFrameCount = Read("AnimationFrameCount") : End Property
   Public Property Get AnimationCurrentFrame : AnimationCurrentFrame = Read("AnimationCurrentFrame") : End Property
+  Public Property Let AnimationCurrentFrame(value) : Write "AnimationCurrentFrame", value : End Property
+  Public Sub AnimationIncrementFrame : Note "AnimationIncrementFrame", "" : MoveFrame 1 : End Sub
+  Public Sub AnimationDecrementFrame : Note "AnimationDecrementFrame", "" : MoveFrame -1 : End Sub
+  Private Sub MoveFrame(frames)
+    Dim frame
+    frame = Fields("AnimationCurrentFrame") + frames
+    If frame >= 0 And frame < Fields("AnimationFrameCount") Then Fields("AnimationCurrentFrame") = frame
+  End Sub
+  Public Property Get AnimationLoopState : AnimationLoopState = Read("AnimationLoopState") : End Property
+  Public Property Let AnimationLoopState(value) : Write "AnimationLoopState", value : End Property
+  Public Property Get LightIsOn : LightIsOn = Read("LightIsOn") : End Property
+  Public Property Let LightIsOn(value) : Write "LightIsOn", value : End Property
+  Public Sub SetLightDirection(x, y, z) : Note "SetLightDirection", Typed(x) & Typed(y) & Typed(z) : End Sub
+  Public Function GetLightDirection(x, y, z)
+    Note "GetLightDirection", ""
+    x = Fields("LightX")
+    y = Fields("LightY")
+    z = Fields("LightZ")
+    GetLightDirection = Fields("LightStatus")
+  End Function
   Public Property Get LookStyleName : LookStyleName = Read("LookStyleName") : End Property
   Public Property Let LookStyle(value)
     Note "LookStyle :=", Typed(value)

@@ -57,10 +57,7 @@ class Document(unittest.TestCase):
 
     def object_picture(self):
         x, y = self.object_centre()
-        with tempfile.TemporaryDirectory() as folder:
-            path = Path(folder) / "object.rgb"
-            desktop.picture(path, (x - 120, y - 120, x + 120, y + 120))
-            return path.read_bytes()
+        return desktop.pixels((x - 120, y - 120, x + 120, y + 120))
 
     def show(self, name):
         desktop.picture(SCREENS / f"host-{name}.png", self.document["rect"])
