@@ -25,8 +25,7 @@ inline constexpr std::int32_t argumentNotOptional = 449;
 inline constexpr std::int32_t wrongArgumentCount = 450;
 }  // namespace error
 
-// The standard text of an error number. Those of 16 bits that have none are an application's own; others are status
-// codes, which are an "Automation error".
+// The standard text of an error number; without one it is an application's own, or beyond 16 bits an automation error.
 std::string standardErrorText(std::int32_t number);
 
 // A failed operation: a run-time error number and its description. The only exception type of the library.
