@@ -1,5 +1,7 @@
 """A popup of a script client's toolbar as a person meets it, and what the client's model was told."""
 
+import time
+
 from session_case import HOT, PUSH_BUTTON, SCREENS, SessionCase, desktop, wait_for
 
 FAR_AWAY = (1200, 1000)
@@ -21,9 +23,8 @@ class ClientPopupCase(SessionCase):
         return next((w for w in forms if w["window"] != self.toolbar["window"]), None)
 
     def open(self):
-        desktop.move(FAR_AWAY)  # a window just shown is told of the pointer only when it moves
         desktop.move(self.at(self.opener))
-        self.waitForState(self.opener, HOT)
+        time.sleep(0.3)  # a window just shown is not at once under the pointer
         self.click(self.opener)
         self.popup = wait_for(self.shown_popup, what=f"the popup of {self.opener}")
 
@@ -38,8 +39,12 @@ class ClientPopupCase(SessionCase):
         wait_for(lambda: not self.shown_popup(), what=f"the popup of {self.opener} to close")
 
     def close(self):
-        """Whatever has the keyboard: with a message box it may have gone to no window at all."""
-        if self.shown_popup():
+        if not self.shown_popup():
+            return
+        desktop.key("Escape")
+        try:
+            wait_for(lambda: not self.shown_popup(), timeout=3)
+        except TimeoutError:  # after a message box the window manager may leave the keyboard with nobody
             self.client.do("hide")
             self.wait_closed()
             self.client.do("show", 300, 300)
