@@ -4,10 +4,10 @@
 #include <string>
 
 #include "host/app/call_log.h"
-#include "host/win32/drawing.h"
 #include "host/app/model_dispatch.h"
 #include "host/app/model_object.h"
 #include "host/render/picture.h"
+#include "host/win32/drawing.h"
 
 namespace nerida::host {
 
