@@ -10,24 +10,23 @@ void frmBrowser::lstModels_ItemClick(int index) {
 }
 
 void frmBrowser::SelectItem(const ListItem& item) {
-  handleWith(
-      [&](const Error&) { messages.show("Zephra was unable to load model #" + item.tag, catalogTitle); },
-      [&] {
-        if (item.text == zephBrowser().modelName()) return;  // it is shown already
-        const std::string path = BuildModelPath(paths, messages, toInt32(item.tag));
-        if (path.empty()) throw Error(error::badFileName);  // told already; there is no place to look at
-        if (services.files.firstFile(path).empty()) {
-          messages.show("Zephra cannot find the file " + path +
-                            ".  Please make sure that you have Zephra installed correctly.",
-                        catalogTitle);
-          return;
-        }
-        Preview& preview = zephBrowser();
-        preview.setModelFile(path);
-        zephBrowser().setModelName(item.text);
-        loadedWindow().label("lblModel").setCaption(item.text + " ");
-        zephBrowser().load();
-      });
+  handleWith([&](const Error&) { messages.show("Zephra was unable to load model #" + item.tag, catalogTitle); },
+             [&] {
+               if (item.text == zephBrowser().modelName()) return;  // it is shown already
+               const std::string path = BuildModelPath(paths, messages, toInt32(item.tag));
+               if (path.empty()) throw Error(error::badFileName);  // told already; there is no place to look at
+               if (services.files.firstFile(path).empty()) {
+                 messages.show("Zephra cannot find the file " + path +
+                                   ".  Please make sure that you have Zephra installed correctly.",
+                               catalogTitle);
+                 return;
+               }
+               Preview& preview = zephBrowser();
+               preview.setModelFile(path);
+               zephBrowser().setModelName(item.text);
+               loadedWindow().label("lblModel").setCaption(item.text + " ");
+               zephBrowser().load();
+             });
 }
 
 void frmBrowser::InsertModel() {
