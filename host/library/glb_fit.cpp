@@ -46,10 +46,11 @@ void wrapScene(json& document, const Model::Extent& extent) {
   json& scene = document["scenes"][document.value("scene", std::size_t{0})];
   const double scale = 1.0 / static_cast<double>(extent.radius);
   const auto moved = [&](float middle) { return -static_cast<double>(middle) * scale; };
-  document["nodes"].push_back({{"name", "fit"},
-                               {"scale", {scale, scale, scale}},
-                               {"translation", {moved(extent.middle.x), moved(extent.middle.y), moved(extent.middle.z)}},
-                               {"children", scene["nodes"]}});
+  document["nodes"].push_back(
+      {{"name", "fit"},
+       {"scale", {scale, scale, scale}},
+       {"translation", {moved(extent.middle.x), moved(extent.middle.y), moved(extent.middle.z)}},
+       {"children", scene["nodes"]}});
   scene["nodes"] = json::array({document["nodes"].size() - 1});
 }
 
@@ -59,8 +60,8 @@ std::string fittedGlb(const std::string& bytes, const Model::Extent& extent) {
   constexpr float unnoticeable = 1e-3F;
   if (length(extent.middle) < unnoticeable && std::abs(extent.radius - 1) < unnoticeable) return bytes;
   const std::size_t size = wordAt(bytes, headerSize), rest = headerSize + chunkHeaderSize + size;
-  json document = json::parse(bytes.begin() + headerSize + chunkHeaderSize,
-                              bytes.begin() + static_cast<std::ptrdiff_t>(rest));
+  json document =
+      json::parse(bytes.begin() + headerSize + chunkHeaderSize, bytes.begin() + static_cast<std::ptrdiff_t>(rest));
   wrapScene(document, extent);
   std::string text = document.dump(-1, ' ', false, json::error_handler_t::replace);
   text.resize((text.size() + 3) / 4 * 4, ' ');

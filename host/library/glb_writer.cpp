@@ -138,10 +138,8 @@ class Writer {
 
   std::size_t addAccessor(std::size_t start, Target target, ComponentType type, std::size_t count, const char* shape) {
     const std::size_t view = addView(start, target);
-    document["accessors"].push_back({{"bufferView", view},
-                                     {"componentType", static_cast<int>(type)},
-                                     {"count", count},
-                                     {"type", shape}});
+    document["accessors"].push_back(
+        {{"bufferView", view}, {"componentType", static_cast<int>(type)}, {"count", count}, {"type", shape}});
     return document["accessors"].size() - 1;
   }
 

@@ -79,7 +79,8 @@ std::string indexLine(const ModelCard& card) {
 
 ModelCard cardOfIndexLine(const std::string& line) {
   std::vector<std::string> fields = split(line, '\t');
-  while (!fields.back().empty() && (fields.back().back() == '\n' || fields.back().back() == '\r')) fields.back().pop_back();
+  while (!fields.back().empty() && (fields.back().back() == '\n' || fields.back().back() == '\r'))
+    fields.back().pop_back();
   ModelCard card;
   const char* end = fields[0].data() + fields[0].size();
   const bool numbered = std::from_chars(fields[0].data(), end, card.number).ptr == end && !fields[0].empty();

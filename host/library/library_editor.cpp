@@ -1,6 +1,7 @@
 #include "host/library/library_editor.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "host/library/fields.h"
 #include "host/library/files.h"
@@ -85,13 +86,14 @@ void LibraryEditor::add(const ModelCard& card, const std::string& modelFile) {
     flushToDisk(places.models / modelPath(card.number));
     did("model file");
     asLibraryError([&] { search::changeDatabase(places.database, {card}); });
-    did("database");
-    addToIndex(places.models, card);
-    did("index");
   } catch (const LibraryError&) {
-    bringToAnEnd();
+    removeModelFile(card.number);
+    forgetNote();
     throw;
   }
+  did("database");
+  addToIndex(places.models, card);  // should it fail, the note stays, and the next editor ends what is begun
+  did("index");
   forgetNote();
 }
 
@@ -104,12 +106,12 @@ void LibraryEditor::remove(std::int32_t number) {
   did("note");
   try {
     asLibraryError([&] { search::changeDatabase(places.database, {}, {number}); });
-    did("database");
-    endRemoving(number);
   } catch (const LibraryError&) {
-    bringToAnEnd();
+    forgetNote();
     throw;
   }
+  did("database");
+  endRemoving(number);
   forgetNote();
 }
 
@@ -203,7 +205,8 @@ std::vector<std::string> checkLibrary(const LibraryPlaces& places) {
     for (const ModelCard& card : cards) texts.push_back(indexLine(card));
     return texts;
   };
-  if (lines(indexed) != lines(found)) faults.push_back("the database is not that of the index; build-index makes it anew");
+  if (lines(indexed) != lines(found))
+    faults.push_back("the database is not that of the index; build-index makes it anew");
   return faults;
 }
 

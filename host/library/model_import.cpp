@@ -20,7 +20,8 @@ constexpr std::uintmax_t largestFile = 256U * 1024U * 1024U;
 std::string extensionOf(const fs::path& file) {
   const std::u8string text = file.extension().u8string();
   std::string extension(text.begin(), text.end());
-  std::ranges::transform(extension, extension.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  std::ranges::transform(extension, extension.begin(),
+                         [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
   return extension;
 }
 

@@ -126,7 +126,8 @@ class Collector {
 
   [[nodiscard]] Vec pointAt(int index) const {
     const std::size_t at = static_cast<std::size_t>(index) * 3;
-    if (index < 0 || at + 2 >= source.points.vertices.size()) throw LibraryError("a face names a point that is not there");
+    if (index < 0 || at + 2 >= source.points.vertices.size())
+      throw LibraryError("a face names a point that is not there");
     const auto& values = source.points.vertices;
     const Vec point{values[at], values[at + 1], values[at + 2]};
     if (!std::isfinite(point.x + point.y + point.z)) throw LibraryError("a point is infinitely far away");
@@ -156,8 +157,12 @@ class Collector {
     for (std::size_t i = face * 3; i < face * 3 + 3; ++i) {
       const auto& [index, normal] = corners[i];
       constexpr double grid = 1e4;
-      const Key key{index.vertex_index,           index.texcoord_index,           std::llround(normal.x * grid),
-                    std::llround(normal.y * grid), std::llround(normal.z * grid), paints[face]};
+      const Key key{index.vertex_index,
+                    index.texcoord_index,
+                    std::llround(normal.x * grid),
+                    std::llround(normal.y * grid),
+                    std::llround(normal.z * grid),
+                    paints[face]};
       const auto next = static_cast<std::uint32_t>(surface.points.size());
       const auto [found, isNew] = seen.try_emplace(key, next);
       if (isNew) {

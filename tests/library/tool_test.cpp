@@ -1,6 +1,6 @@
 // The tool itself, as a person at a terminal would use it.
-#include <gtest/gtest.h>
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <signal.h>
 #include <spawn.h>
 #include <sys/wait.h>
@@ -35,7 +35,9 @@ class Tool : public testing::Test {
 };
 
 TEST_F(Tool, AddsListsAndRemoves) {
-  ASSERT_EQ(run("add " + obj() + " --name 'Kiste \"50 %\" \xC3\xA4' --category Mine/Boxes --keywords 'a, b c'" + library()), 0);
+  ASSERT_EQ(
+      run("add " + obj() + " --name 'Kiste \"50 %\" \xC3\xA4' --category Mine/Boxes --keywords 'a, b c'" + library()),
+      0);
   ASSERT_EQ(run("add " + obj() + " " + obj() + library()), 0);
   const auto cards = search::readDatabase(folder.path());
   ASSERT_EQ(cards.size(), 3U);
