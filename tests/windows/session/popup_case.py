@@ -139,7 +139,7 @@ class PopupCase(unittest.TestCase):
         self.settled()
         self.assertEqual(1, len(self.popups()))
         self.assertEqual(popup.asked, without_values(self.host.calls()))
-        return window
+        return self.probe.describe(window)  # it was seen while it came up, perhaps before it had its place
 
     def assertClosed(self, popup, *calls):
         wait_for(lambda: not self.popups(), what=f"the popup of {popup.button} to close")

@@ -71,11 +71,13 @@ class Closing(PopupCase):
             self.open(popup)
             desktop.click(self.beside_object())
             self.probe.gone(TOOLBAR)
-            self.assertClosed(popup, LEFT)
+            wait_for(lambda: not self.popups(), what="the popup to go with the toolbar")
+            self.settled()
+            self.assertEqual([LEFT], self.host.calls())
             self.edit()
             self.settled()
             self.host.calls()
-            self.assertEqual([], self.popups())
+            self.assertClosed(popup)
             self.opens_again(popup)
 
         self.each(scenario)
@@ -115,6 +117,9 @@ class Closing(PopupCase):
         self.each(scenario)
 
     def away_and_back(self, popup):
+        # Under Wine a tool window that no click has reached yet does not notice that another program is activated.
+        left, top, _, _ = self.popups()[0]["rect"]
+        desktop.click((left + 5, top + 5))
         with desktop.OtherProgram() as other:
             other.activate()
             self.probe.gone(TOOLBAR)
