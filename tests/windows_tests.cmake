@@ -8,8 +8,15 @@ target_include_directories(nerida_gtest SYSTEM PUBLIC ${gtest}/include PRIVATE $
 # Every program of the Windows tests is started by this script, under Wine where the machine is no Windows.
 set(NERIDA_RUN ${CMAKE_CURRENT_SOURCE_DIR}/windows/run)
 
-# nerida_windows_test(NAME COMMAND...): they share one registry, one display and its focus, so each runs alone.
+if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+  set(NERIDA_ARCH x64)
+else()
+  set(NERIDA_ARCH x86)
+endif()
+
+# nerida_windows_test(NAME COMMAND...): they share one registry, one display and its focus, so each runs alone. Its full
+# name ends in the architecture: one run takes in several build trees, and mixes up what bears the same name.
 function(nerida_windows_test name)
-  add_test(NAME ${name} COMMAND ${ARGN})
-  set_tests_properties(${name} PROPERTIES RUN_SERIAL TRUE TIMEOUT 120)
+  add_test(NAME ${name}.${NERIDA_ARCH} COMMAND ${ARGN})
+  set_tests_properties(${name}.${NERIDA_ARCH} PROPERTIES RUN_SERIAL TRUE TIMEOUT 120)
 endfunction()
