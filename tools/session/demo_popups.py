@@ -68,7 +68,7 @@ def animation(tour):
     desktop.type_text("24")
     desktop.key("Return")
     tour.show("Type a frame", tour.host.wait_for_call("let AnimationCurrentFrame"))
-    tour.show("Let it repeat", tour.choose(mode, "let AnimationLoopState"))
+    tour.show("Let it play only once", tour.choose(mode, "let AnimationLoopState"))
 
 
 def run(tour):
