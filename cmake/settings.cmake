@@ -30,7 +30,7 @@ if(WIN32)
   # come into a cross build.
   set(NERIDA_BORROWED ${CMAKE_BINARY_DIR}/borrowed)
   file(MAKE_DIRECTORY ${NERIDA_BORROWED})
-  foreach(header nlohmann stb tiny_gltf.h)
+  foreach(header nlohmann stb tiny_gltf.h tiny_obj_loader.h)
     if(EXISTS /usr/include/${header} AND NOT EXISTS ${NERIDA_BORROWED}/${header})
       file(CREATE_LINK /usr/include/${header} ${NERIDA_BORROWED}/${header} SYMBOLIC)
     endif()

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 #include "host/library/described_shapes.h"
 #include "host/library/files.h"
@@ -162,29 +161,6 @@ ModelCard cardOf(Fields& fields) {
   return card;
 }
 
-/// Puts the middle of the model, over all its frames, into the origin and its farthest point at distance 1.
-void centre(BuiltModel& model) {
-  std::vector<Vec> points;
-  for (int frame = 0; frame < std::max(model.frames, 1); ++frame) {
-    collectPoints(model.root, {}, static_cast<std::size_t>(frame), points);
-  }
-  constexpr double far = std::numeric_limits<double>::max();
-  Vec low{far, far, far}, high{-far, -far, -far};
-  for (const Vec& p : points) {
-    low = {std::min(low.x, p.x), std::min(low.y, p.y), std::min(low.z, p.z)};
-    high = {std::max(high.x, p.x), std::max(high.y, p.y), std::max(high.z, p.z)};
-  }
-  const Vec middle = (low + high) * 0.5;
-  double radius = 0;
-  for (const Vec& p : points) radius = std::max(radius, length(p - middle));
-  const double scale = 1 / radius;
-  const Transform fit = Transform::scale({scale, scale, scale}) * Transform::shift(middle * -1);
-  for (auto& [paint, surface] : model.root.surfaces) {
-    for (Vec& point : surface.points) point = fit.apply(point);
-  }
-  for (Node& child : model.root.children) child.placement = fit * child.placement;
-}
-
 }  // namespace
 
 BuiltModel buildModel(const json& description, const std::string& where) {
@@ -203,7 +179,7 @@ BuiltModel buildModel(const json& description, const std::string& where) {
   Builder(model, shapes, where).addParts(fields.raw("parts"), {}, 0, model.root);
   fields.close();
   if (triangleCount(model.root) == 0) fields.fail("the model is empty");
-  centre(model);
+  fitIntoUnitSphere(model);
   return model;
 }
 

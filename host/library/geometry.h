@@ -60,9 +60,13 @@ struct Surface {
   std::vector<Vec> points;
   std::vector<Vec> normals;
   std::vector<std::uint32_t> indices;
+  std::vector<std::array<float, 2>> imagePlaces;  ///< where each point lies on its paint's picture; or empty
 
   void append(const Surface& other);
 };
+
+/// The normals of all triangles' corners, three for each triangle.
+std::vector<Vec> cornerNormals(const Mesh& mesh, double creaseDegrees);
 
 /// Neighbouring faces that meet at less than `creaseDegrees` share their normals; sharper edges stay edges.
 Surface withNormals(const Mesh& mesh, double creaseDegrees);

@@ -59,7 +59,17 @@ class Writer {
                     {"metallicFactor", 0},
                     {"roughnessFactor", 0.8}}}};
     if (paint.doubleSided) material["doubleSided"] = true;
+    if (!paint.image.empty()) material["pbrMetallicRoughness"]["baseColorTexture"]["index"] = addImage(paint);
     document["materials"].push_back(std::move(material));
+  }
+
+  std::size_t addImage(const Paint& paint) {
+    const std::size_t start = binary.size();
+    binary += paint.image;
+    const std::size_t view = addView(start, otherData);
+    document["images"].push_back({{"bufferView", view}, {"mimeType", paint.imageType}});
+    document["textures"].push_back({{"source", document["images"].size() - 1}});
+    return document["textures"].size() - 1;
   }
 
   std::size_t reserveNode() {
@@ -101,24 +111,35 @@ class Writer {
     for (const auto& [paint, surface] : node.surfaces) {
       const std::size_t positions = addVectors(surface.points, vertexData);
       setBounds(positions, surface.points);
-      primitives.push_back(
-          {{"attributes", {{"POSITION", positions}, {"NORMAL", addVectors(surface.normals, vertexData)}}},
-           {"indices", addIndices(surface)},
-           {"material", paint}});
+      json attributes{{"POSITION", positions}, {"NORMAL", addVectors(surface.normals, vertexData)}};
+      if (!surface.imagePlaces.empty()) attributes["TEXCOORD_0"] = addImagePlaces(surface);
+      primitives.push_back({{"attributes", attributes}, {"indices", addIndices(surface)}, {"material", paint}});
     }
     document["meshes"].push_back({{"name", node.name}, {"primitives", primitives}});
     return document["meshes"].size() - 1;
   }
 
-  std::size_t addAccessor(std::size_t start, Target target, ComponentType type, std::size_t count, const char* shape) {
+  std::size_t addView(std::size_t start, Target target) {
     json view{{"buffer", 0}, {"byteOffset", start}, {"byteLength", binary.size() - start}};
     if (target != otherData) view["target"] = static_cast<int>(target);
     while (binary.size() % 4 != 0) binary.push_back('\0');
     document["bufferViews"].push_back(std::move(view));
-    document["accessors"].push_back({{"bufferView", document["bufferViews"].size() - 1},
-                                     {"componentType", static_cast<int>(type)},
-                                     {"count", count},
-                                     {"type", shape}});
+    return document["bufferViews"].size() - 1;
+  }
+
+  std::size_t addImagePlaces(const Surface& surface) {
+    const std::size_t start = binary.size();
+    for (const auto& [across, down] : surface.imagePlaces) {
+      put(binary, across);
+      put(binary, down);
+    }
+    return addAccessor(start, vertexData, floating, surface.imagePlaces.size(), "VEC2");
+  }
+
+  std::size_t addAccessor(std::size_t start, Target target, ComponentType type, std::size_t count, const char* shape) {
+    const std::size_t view = addView(start, target);
+    document["accessors"].push_back(
+        {{"bufferView", view}, {"componentType", static_cast<int>(type)}, {"count", count}, {"type", shape}});
     return document["accessors"].size() - 1;
   }
 

@@ -5,13 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "host/library/model.h"
+#include "host/library/index_file.h"
 
 namespace nerida::library {
-
-/// The plain index at a library's root, one model per line, tab-separated:
-/// number, name, category, sub-category, "animated" or "still", keywords separated by commas.
-inline constexpr const char* indexFileName = "index.txt";
 
 /// Builds a model file for every description (*.model, at any depth) in `descriptions`
 /// below `target`, and the index. Files that are
@@ -19,9 +15,6 @@ inline constexpr const char* indexFileName = "index.txt";
 /// Throws LibraryError; then the index is as it was.
 void buildLibrary(const std::filesystem::path& descriptions, const std::filesystem::path& target,
                   const std::function<void(const std::string&)>& progress);
-
-/// The cards of the index, by number. Throws LibraryError.
-std::vector<ModelCard> readIndex(const std::filesystem::path& library);
 
 /// Everything that is wrong with a library, one sentence each: unreadable, missing and surplus model files.
 std::vector<std::string> checkLibrary(const std::filesystem::path& library);

@@ -13,6 +13,8 @@ struct Paint {
   std::string name;
   double red = 0.6, green = 0.6, blue = 0.6;  ///< linear light
   bool doubleSided = false;
+  std::string image;      ///< the bytes of a picture that is laid over the surface; empty = none
+  std::string imageType;  ///< "image/png" or "image/jpeg"
 };
 
 /// How a node moves: one entry for each frame, both lists empty for a node that rests.
@@ -40,6 +42,9 @@ struct BuiltModel {
 };
 
 [[nodiscard]] std::size_t triangleCount(const Node& node);
+
+/// Puts the middle of the model, over all its frames, into the origin and its farthest point at distance 1.
+void fitIntoUnitSphere(BuiltModel& model);
 
 /// The corners of everything below `node`, in the pose of `frame`.
 void collectPoints(const Node& node, const Transform& above, std::size_t frame, std::vector<Vec>& points);

@@ -34,6 +34,14 @@ class Smoother {
     for (std::size_t face = 0; face < mesh.triangles.size(); ++face) addFace(face);
   }
 
+  [[nodiscard]] std::vector<Vec> ofCorners() const {
+    std::vector<Vec> normals;
+    for (std::size_t face = 0; face < mesh.triangles.size(); ++face) {
+      for (const std::uint32_t point : mesh.triangles[face]) normals.push_back(normalAt(point, face));
+    }
+    return normals;
+  }
+
   Surface smoothed() {
     for (std::size_t face = 0; face < mesh.triangles.size(); ++face) {
       for (const std::uint32_t point : mesh.triangles[face]) emit(point, normalAt(point, face));
@@ -96,6 +104,10 @@ void Surface::append(const Surface& other) {
   points.insert(points.end(), other.points.begin(), other.points.end());
   normals.insert(normals.end(), other.normals.begin(), other.normals.end());
   for (const std::uint32_t index : other.indices) indices.push_back(base + index);
+}
+
+std::vector<Vec> cornerNormals(const Mesh& mesh, double creaseDegrees) {
+  return Smoother(mesh, creaseDegrees).ofCorners();
 }
 
 Surface withNormals(const Mesh& mesh, double creaseDegrees) { return Smoother(mesh, creaseDegrees).smoothed(); }

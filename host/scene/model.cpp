@@ -130,6 +130,11 @@ Model Model::parse(std::span<const std::uint8_t> bytes) {
   return model;
 }
 
+Model::Extent Model::extent() const {
+  const float radius = 1 / content->root.linear.rowX.x;
+  return {-content->root.offset * radius, radius};
+}
+
 int Model::frameCount() const { return content->frameCount; }
 double Model::frameRate() const { return content->frameRate; }
 

@@ -31,6 +31,13 @@ class Model {
   Model& operator=(Model&&) noexcept;
   ~Model();
 
+  /// How the file itself places the model, in all its poses.
+  struct Extent {
+    Vec3 middle;
+    float radius = 1;
+  };
+  [[nodiscard]] Extent extent() const;
+
   [[nodiscard]] int frameCount() const;  ///< 0 = not animated
   [[nodiscard]] double frameRate() const;
 

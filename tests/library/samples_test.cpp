@@ -2,13 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <map>
 #include <set>
 
 #include "host/library/description.h"
-#include "host/library/library.h"
-#include "tests/library/folder.h"
 
 namespace nerida::library {
 namespace {
@@ -91,36 +88,6 @@ TEST(Samples, AnimatedOnesLookDifferentInTheirFrames) {
     for (std::size_t i = 0; i < first.size(); ++i) farthest = std::max(farthest, length(first[i] - middle[i]));
     EXPECT_GT(farthest, 0.03) << model.card.name;
   }
-}
-
-int run(const std::string& arguments) {
-  return std::system((std::string("'") + LIBRARY_TOOL + "' " + arguments + " >/dev/null 2>&1").c_str());
-}
-
-TEST(Tool, BuildsTwiceAlikeAndFindsTheModelsWhole) {
-  const TemporaryFolder folder, recipes;
-  fs::copy_file(fs::path(SAMPLE_MODELS) / "shared.recipe", recipes.path() / "shared.recipe");
-  for (const char* some : {"symbols", "office"}) {
-    fs::copy(fs::path(SAMPLE_MODELS) / some, recipes.path() / some, fs::copy_options::recursive);
-  }
-  const std::string one = (folder.path() / "one").string(), two = (folder.path() / "two").string();
-  ASSERT_EQ(run("build '" + recipes.path().string() + "' '" + one + "'"), 0);
-  ASSERT_EQ(run("build '" + recipes.path().string() + "' '" + two + "'"), 0);
-  EXPECT_EQ(run("check '" + one + "'"), 0);
-  EXPECT_EQ(run("list '" + one + "'"), 0);
-  std::set<fs::path> files;
-  for (const fs::directory_entry& entry : fs::recursive_directory_iterator(one)) {
-    if (entry.is_regular_file()) files.insert(entry.path().lexically_relative(one));
-  }
-  EXPECT_GE(files.size(), 20U);
-  for (const fs::path& file : files) EXPECT_EQ(contentOf(one / file), contentOf(two / file)) << file;
-}
-
-TEST(Tool, FailsForWrongUse) {
-  EXPECT_NE(run(""), 0);
-  EXPECT_NE(run("build"), 0);
-  EXPECT_NE(run("sing /tmp"), 0);
-  EXPECT_NE(run("check '/no such folder'"), 0);
 }
 
 }  // namespace

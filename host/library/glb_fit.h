@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+#include "host/scene/model.h"
+
+namespace nerida::library {
+
+/// A binary glTF file with one more node around its scene, so that the model fills the unit sphere. A file that does so
+/// already is given back as it is. The bytes must be those of a file that could be loaded.
+std::string fittedGlb(const std::string& bytes, const Model::Extent& extent);
+
+}  // namespace nerida::library
