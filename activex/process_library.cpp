@@ -4,8 +4,10 @@
 
 #include "activex/border.h"
 #include "platform/win32/desktop.h"
+#include "platform/win32/files.h"
 #include "platform/win32/prompts.h"
 #include "platform/win32/registry.h"
+#include "platform/win32/search_component.h"
 #include "platform/win32/settings.h"
 #include "platform/win32/shell.h"
 #include "platform/win32/window.h"
@@ -21,7 +23,9 @@ struct ProcessLibrary {
   SystemRegistry registry;
   SystemSettings settings;
   SystemShell shell;
-  Library library{{desktop, windows, prompts, registry, settings, shell}};
+  SystemFiles files;
+  SystemSearchComponents searchComponents;
+  Library library{{desktop, windows, prompts, registry, settings, shell, files, searchComponents}};
 };
 
 // Not an object with a destructor of its own: at the end of the process the system has already taken the windows and

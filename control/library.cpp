@@ -16,7 +16,8 @@ Library::Library(const Platform& platform)
       backgroundColors(state, platform.windows, desktop, messages, toolbar, recentColors, backgroundRole),
       animation(state, platform.windows, desktop, paths, messages, toolbar),
       lighting(state, platform.windows, desktop, paths, messages, toolbar),
-      browser(state, platform.windows, paths, messages, platform.shell),
+      browser(state, platform.windows, paths, messages,
+              {desktop, platform.prompts, settings, platform.shell, platform.files, platform.searchComponents}),
       about(state, platform.windows, paths) {
   toolbar.connect({.lineThickness = &lineThicknessMenu,
                    .lineColors = &lineColors,
@@ -30,6 +31,15 @@ Library::Library(const Platform& platform)
   browser.modelNamed = [this](const std::string& name) {
     if (toolbar.isLoaded()) toolbar.setCaptionFor(name);
   };
+  browser.aboutAsked = [this] { showAboutBox(); };
+}
+
+void Library::showAboutBox() {
+  ignoringErrors([this] {
+    if (about.isVisible()) return;
+    about.ShowModal();
+    about.unload();
+  });
 }
 
 }  // namespace nerida

@@ -20,6 +20,9 @@ namespace nerida {
 struct Library {
   explicit Library(const Platform& platform);
 
+  // Modal. Quiet about failures.
+  void showAboutBox();
+
   Desktop& desktop;
   Registry& registry;
   Settings& settings;

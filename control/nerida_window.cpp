@@ -176,13 +176,7 @@ std::int32_t NeridaWindow::ToolbarInit(ObjectRef newModel, WindowHandle hostWind
   return lastError;
 }
 
-void NeridaWindow::ShowAboutBox() {
-  ignoringErrors([this] {
-    if (library.about.isVisible()) return;
-    library.about.ShowModal();
-    library.about.unload();
-  });
-}
+void NeridaWindow::ShowAboutBox() { library.showAboutBox(); }
 
 void NeridaWindow::ShowHelp() { library.browser.ShowHelpFile(); }
 

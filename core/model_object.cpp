@@ -52,6 +52,12 @@ void ModelObject::SetLightDirection(const LightDirection& direction) {
   object()->call("SetLightDirection", arguments);
 }
 
+void ModelObject::SetOrientation(const std::array<std::int32_t, 3>& angles) {
+  std::array<Value, 3> variables{Value(angles[0]), Value(angles[1]), Value(angles[2])};
+  std::array<Argument, 3> arguments{Argument(&variables[0]), Argument(&variables[1]), Argument(&variables[2])};
+  object()->call("SetOrientation", arguments);
+}
+
 std::optional<LightDirection> ModelObject::GetLightDirection() {
   std::array<Value, 3> variables{Value(std::int32_t{0}), Value(std::int32_t{0}), Value(std::int32_t{0})};
   std::array<Argument, 3> arguments{Argument(&variables[0]), Argument(&variables[1]), Argument(&variables[2])};

@@ -30,6 +30,9 @@ class ModelObject {
   bool exists() const { return state.gModelObject != nullptr; }
 
   std::string ModelName() { return toText(get("ModelName")); }
+  void setModelName(const std::string& name) { let("ModelName", name); }
+  void setTarnwellXFile(const std::string& path) { let("TarnwellXFile", path); }  // of the model to load
+  void setModelScale(std::int32_t scale) { let("ModelScale", scale); }            // as the preview reports it
   void RefreshDisplay() { call("RefreshDisplay"); }
   std::int32_t InterfaceFlags() { return toInt32(get("InterfaceFlags")); }
 
@@ -49,6 +52,8 @@ class ModelObject {
   void ResetHome() { call("ResetHome"); }
   // Hundredths of a degree (16-bit).
   void SetOrientation(std::int16_t x, std::int16_t y, std::int16_t z) { call("SetOrientation", {x, y, z}); }
+  // The angles of a model in the preview, as references to 32-bit numbers.
+  void SetOrientation(const std::array<std::int32_t, 3>& angles);
 
   // The names of the rendering styles in the object's order. Three variables are passed by reference; the first that
   // comes back with an array of texts is the list. An object that cannot fill variables (some script languages) may

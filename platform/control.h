@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -79,6 +80,25 @@ class PictureBox : public Control {
   // The parts as they are now, for tooltips and assistive tools, and what pressing one of them does.
   std::function<std::vector<DrawnPart>()> parts;
   std::function<void(std::size_t part)> pressPart;
+};
+
+class Button : public Control {
+ public:
+  std::function<void()> click;  // by mouse, by Enter or Space, or by an assistive tool
+};
+
+// A picture that was read from a file; see Files::loadPicture.
+class StoredPicture {
+ public:
+  virtual ~StoredPicture() = default;
+};
+
+// Shows a picture, in the middle and as large as its place allows without distorting it.
+class Image : public Control {
+ public:
+  virtual void setPicture(std::shared_ptr<const StoredPicture> picture) = 0;
+
+  std::function<void()> click;
 };
 
 class Label : public Control {

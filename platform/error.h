@@ -15,14 +15,20 @@ inline constexpr std::int32_t outOfMemory = 7;
 inline constexpr std::int32_t subscriptOutOfRange = 9;
 inline constexpr std::int32_t typeMismatch = 13;
 inline constexpr std::int32_t outOfStackSpace = 28;
+inline constexpr std::int32_t badFileName = 52;
 inline constexpr std::int32_t fileNotFound = 53;
+inline constexpr std::int32_t deviceUnavailable = 68;
+inline constexpr std::int32_t diskNotReady = 71;
 inline constexpr std::int32_t objectNotSet = 91;
+inline constexpr std::int32_t noSuchElement = 340;
+inline constexpr std::int32_t alreadyLoaded = 360;
 inline constexpr std::int32_t cannotCreateObject = 429;
 inline constexpr std::int32_t noInterface = 430;
 inline constexpr std::int32_t noSuchMember = 438;
 inline constexpr std::int32_t notImplemented = 445;
 inline constexpr std::int32_t argumentNotOptional = 449;
 inline constexpr std::int32_t wrongArgumentCount = 450;
+inline constexpr std::int32_t invalidPicture = 481;
 }  // namespace error
 
 // The standard text of an error number; without one it is an application's own, or beyond 16 bits an automation error.

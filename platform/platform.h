@@ -5,8 +5,10 @@
 namespace nerida {
 
 class Desktop;
+class Files;
 class Prompts;
 class Registry;
+class SearchComponents;
 class Settings;
 class Shell;
 class WindowFactory;
@@ -19,6 +21,8 @@ struct Platform {
   Registry& registry;
   Settings& settings;
   Shell& shell;
+  Files& files;
+  SearchComponents& searchComponents;
 };
 
 }  // namespace nerida

@@ -9,6 +9,9 @@
 #include "platform/button_bar.h"
 #include "platform/control.h"
 #include "platform/form_layout.h"
+#include "platform/form_menu.h"
+#include "platform/list_view.h"
+#include "platform/preview.h"
 
 namespace nerida {
 
@@ -71,6 +74,12 @@ class Window {
   virtual TextBox& textBox(const std::string& name) = 0;
   virtual PictureBox& pictureBox(const std::string& name, int index = 0) = 0;
   virtual Label& label(const std::string& name) = 0;
+  virtual Button& button(const std::string& name, int index = 0) = 0;
+  virtual Image& image(const std::string& name) = 0;
+  virtual ListView& listView(const std::string& name) = 0;
+  virtual Preview& preview(const std::string& name) = 0;
+  // The menu bar; without entries when the layout has none.
+  virtual FormMenu& menu() = 0;
 
   std::function<void()> activated;
   std::function<void()> deactivated;

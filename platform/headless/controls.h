@@ -90,6 +90,25 @@ class Picture : public Basic<PictureBox> {
   KeyboardFocus& focus;
 };
 
+class PushButton : public Basic<Button> {
+ public:
+  using Basic::Basic;
+  void press() const {
+    if (click) click();
+  }
+};
+
+class StillPicture : public Basic<Image> {
+ public:
+  using Basic::Basic;
+  void setPicture(std::shared_ptr<const StoredPicture> value) override { picture = std::move(value); }
+  void press() const {
+    if (click) click();
+  }
+
+  std::shared_ptr<const StoredPicture> picture;
+};
+
 class Caption : public Basic<Label> {
  public:
   using Basic::Basic;

@@ -2,8 +2,10 @@
 
 #include "platform/headless/automation.h"
 #include "platform/headless/desktop.h"
+#include "platform/headless/files.h"
 #include "platform/headless/prompts.h"
 #include "platform/headless/registry.h"
+#include "platform/headless/search_component.h"
 #include "platform/headless/settings.h"
 #include "platform/headless/shell.h"
 #include "platform/headless/transcript.h"
@@ -29,8 +31,10 @@ struct HeadlessPlatform {
   MemoryRegistry registry;
   MemorySettings settings;
   RecordingShell shell{transcript};
+  MemoryFiles files{transcript};
+  PreparedSearch search{transcript};
 
-  Platform services() { return {screen, windows, boxes, registry, settings, shell}; }
+  Platform services() { return {screen, windows, boxes, registry, settings, shell, files, search}; }
 };
 
 }  // namespace nerida::headless

@@ -10,6 +10,12 @@ class RecordingShell : public Shell {
   explicit RecordingShell(Transcript& transcript) : transcript(transcript) {}
 
   void openHelp(WindowHandle, const std::string& file) override { transcript.add("help " + file); }
+  bool open(WindowHandle, const std::string& target, const std::string& workingFolder, ShowCommand show) override {
+    transcript.add("open " + target + " in " + workingFolder + " as " + std::to_string(static_cast<int>(show)));
+    return opens;
+  }
+
+  bool opens = true;  // whether there is a program for what is opened
 
  private:
   Transcript& transcript;

@@ -23,7 +23,12 @@ std::string written(Point point) { return "(" + std::to_string(point.x) + ", " +
 }  // namespace
 
 FormWindow::FormWindow(Windows& windows, const FormLayout& layout, WindowHandle handle)
-    : caption(layout.caption), height(layout.height), layout(layout), windows(windows), number(handle) {
+    : caption(layout.caption),
+      height(layout.height),
+      layout(layout),
+      menuBar(windows.transcript, layout.menu),
+      windows(windows),
+      number(handle) {
   createControls();
   windows.living.push_back(this);
   note("load");
@@ -65,6 +70,18 @@ void FormWindow::createControls() {
         break;
       case ControlKind::label:
         labels[key] = std::make_unique<Caption>(windows.transcript, name, control.bounds);
+        break;
+      case ControlKind::button:
+        buttons[key] = std::make_unique<PushButton>(windows.transcript, name, control.bounds);
+        break;
+      case ControlKind::image:
+        images[key] = std::make_unique<StillPicture>(windows.transcript, name, control.bounds);
+        break;
+      case ControlKind::listView:
+        lists[key] = std::make_unique<Items>(windows.transcript, name, control.bounds);
+        break;
+      case ControlKind::preview:
+        previews[key] = std::make_unique<PreviewControl>(windows.transcript, name, control.bounds);
         break;
     }
   }

@@ -10,6 +10,9 @@
 
 #include "platform/headless/button_bar.h"
 #include "platform/headless/controls.h"
+#include "platform/headless/form_menu.h"
+#include "platform/headless/list_view.h"
+#include "platform/headless/preview.h"
 #include "platform/window.h"
 
 namespace nerida::headless {
@@ -44,6 +47,11 @@ class FormWindow : public Window {
   TextBox& textBox(const std::string& name) override { return *find(texts, name, 0); }
   PictureBox& pictureBox(const std::string& name, int index) override { return *find(pictures, name, index); }
   Label& label(const std::string& name) override { return *find(labels, name, 0); }
+  Button& button(const std::string& name, int index) override { return *find(buttons, name, index); }
+  Image& image(const std::string& name) override { return *find(images, name, 0); }
+  ListView& listView(const std::string& name) override { return *find(lists, name, 0); }
+  Preview& preview(const std::string& name) override { return *find(previews, name, 0); }
+  FormMenu& menu() override { return menuBar; }
 
   // The headless faces of the controls.
   Bar& bar(const std::string& name, int index = 0) { return *find(bars, name, index); }
@@ -51,6 +59,10 @@ class FormWindow : public Window {
   Text& text(const std::string& name) { return *find(texts, name, 0); }
   Picture& picture(const std::string& name, int index = 0) { return *find(pictures, name, index); }
   Caption& labelControl(const std::string& name) { return *find(labels, name, 0); }
+  PushButton& pushButton(const std::string& name, int index = 0) { return *find(buttons, name, index); }
+  StillPicture& stillPicture(const std::string& name) { return *find(images, name, 0); }
+  Items& items(const std::string& name) { return *find(lists, name, 0); }
+  PreviewControl& previewControl(const std::string& name) { return *find(previews, name, 0); }
 
   // The system sends the window a message; the answer is what its procedure returns.
   std::intptr_t send(std::uint32_t number, std::uintptr_t wParam = 0, std::intptr_t lParam = 0);
@@ -63,6 +75,7 @@ class FormWindow : public Window {
   std::string caption;
   Twips height;
   const FormLayout& layout;
+  MenuBar menuBar;
   // What the procedure behind the hook was handed, and what it answers.
   std::vector<Message> passedOn;
   std::intptr_t previousAnswer = 0;
@@ -89,6 +102,10 @@ class FormWindow : public Window {
   ByName<Text> texts;
   ByName<Picture> pictures;
   ByName<Caption> labels;
+  ByName<PushButton> buttons;
+  ByName<StillPicture> images;
+  ByName<Items> lists;
+  ByName<PreviewControl> previews;
 };
 
 // Creates the windows, keeps the list of those that live, and plays the user where a window waits for one.

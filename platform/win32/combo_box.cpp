@@ -30,6 +30,13 @@ void SystemComboBox::fitHeight() {
   send(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), std::max<LRESULT>(fitting, textHeight()));
 }
 
+// Its height is that of the box with its open list.
+void SystemComboBox::reposition() {
+  const RECT at = area();
+  SetWindowPos(window(), nullptr, at.left, at.top, at.right - at.left, form().scale().design(listHeight),
+               SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 int SystemComboBox::textHeight() const {
   const HDC dc = form().backBuffer().context();
   const Selected font(dc, form().font());

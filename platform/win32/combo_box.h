@@ -19,6 +19,7 @@ class SystemComboBox final : public ControlOf<ComboBox> {
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   void onCommand(WORD notification) override;
   bool takesFocus() const override;
+  void reposition() override;
   void fitHeight();
   int textHeight() const;  // in pixels
   LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;

@@ -11,8 +11,8 @@ bool FormWindow::handleNavigation(UINT message, WPARAM key, const NativeControl*
     moveFocus(from, GetKeyState(VK_SHIFT) < 0);
     return true;
   }
-  // The toolbar stays when Escape is pressed; what hangs below it or waits for an answer goes.
-  if (key == VK_ESCAPE && frame != FormFrame::toolWindow) {
+  // Windows that one works in stay when Escape is pressed; what hangs below them or waits for an answer goes.
+  if (key == VK_ESCAPE && frame != FormFrame::toolWindow && !isDialog()) {
     raise(closeRequested);
     return true;
   }

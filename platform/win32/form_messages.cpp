@@ -134,11 +134,30 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_COMMAND:
       if (NativeControl* control = controlOf(reinterpret_cast<HWND>(lParam))) control->onCommand(HIWORD(wParam));
       return 0;
+    case WM_NOTIFY: {
+      const auto& notification = *reinterpret_cast<const NMHDR*>(lParam);
+      NativeControl* control = controlOf(notification.hwndFrom);
+      return control != nullptr ? control->onNotify(notification) : 0;
+    }
+    case WM_MENUCOMMAND:
+    case WM_INITMENUPOPUP:
+      if (onMenu(message, wParam, lParam)) return 0;
+      break;
+    case WM_SIZE:
+      if (isDialog()) placeControls();
+      break;
+    case WM_GETMINMAXINFO:
+      if (isDialog()) keepLeastSize(*reinterpret_cast<MINMAXINFO*>(lParam));
+      break;
     case WM_ACTIVATE:
       onActivate(LOWORD(wParam) != WA_INACTIVE, reinterpret_cast<HWND>(lParam));
       return 0;
     case WM_SETFOCUS:
-      if (const NativeControl* control = controlOf(lastFocus); control && control->takesFocus()) SetFocus(lastFocus);
+      if (const NativeControl* control = controlOf(lastFocus); control && control->takesFocus()) {
+        SetFocus(lastFocus);
+      } else if (isDialog()) {
+        moveFocus(nullptr, false);
+      }
       return 0;
     case WM_KEYDOWN:
       if (handleNavigation(message, wParam, nullptr)) return 0;

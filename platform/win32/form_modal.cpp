@@ -15,21 +15,20 @@ BOOL CALLBACK disableWindow(HWND window, LPARAM parameter) noexcept {
 
 }  // namespace
 
-void FormWindow::centre() {
+void FormWindow::centre(HWND after) {
   RECT work = {};
   SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
   const Size size = sizeInPixels();
   const int x = work.left + (work.right - work.left - size.width) / 2;
   const int y = work.top + (work.bottom - work.top - size.height) / 2;
-  // Topmost, since the toolbar is: the window that waits for an answer must not lie under it.
-  SetWindowPos(hwnd, HWND_TOPMOST, x, y, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE);
+  SetWindowPos(hwnd, after, x, y, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE | (after == nullptr ? SWP_NOZORDER : 0));
 }
 
 void FormWindow::showModal() {
   if (modal || realized() == nullptr) return;
   const ModuleLock lock;
   const Use use(*this);
-  centre();
+  centre(HWND_TOPMOST);  // the toolbar is: the window that waits for an answer must not lie under it
   modal = true;
   std::pair<HWND, std::vector<HWND>*> enumeration(hwnd, &disabledForModal);
   EnumThreadWindows(GetCurrentThreadId(), disableWindow, reinterpret_cast<LPARAM>(&enumeration));

@@ -6,10 +6,14 @@
 #include "platform/error.h"
 #include "platform/win32/button_bar.h"
 #include "platform/win32/combo_box.h"
+#include "platform/win32/image.h"
 #include "platform/win32/label.h"
+#include "platform/win32/list_view.h"
 #include "platform/win32/own_dialog.h"
 #include "platform/win32/picture_box.h"
 #include "platform/win32/popup_menu.h"
+#include "platform/win32/preview.h"
+#include "platform/win32/push_button.h"
 #include "platform/win32/text.h"
 #include "platform/win32/text_box.h"
 
@@ -28,7 +32,7 @@ FrameStyle styleOf(FormFrame frame) {
     case FormFrame::popup:
       return {WS_POPUP | WS_DLGFRAME, WS_EX_TOOLWINDOW};
     case FormFrame::dialog:
-      return {WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME, 0};
+      return {WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MAXIMIZEBOX, 0};
     case FormFrame::borderless:
       break;
   }
@@ -59,6 +63,14 @@ std::unique_ptr<NativeControl> makeControl(FormWindow& form, const ControlLayout
       return std::make_unique<SystemTextBox>(form, row);
     case ControlKind::pictureBox:
       return std::make_unique<SystemPictureBox>(form, row);
+    case ControlKind::button:
+      return std::make_unique<SystemPushButton>(form, row);
+    case ControlKind::image:
+      return std::make_unique<SystemImage>(form, row);
+    case ControlKind::listView:
+      return std::make_unique<SystemListView>(form, row);
+    case ControlKind::preview:
+      return std::make_unique<SystemPreview>(form, row);
     case ControlKind::label:
       break;
   }
@@ -72,6 +84,7 @@ FormWindow::FormWindow(const FormLayout& layout)
       frame(layout.frame),
       paintsControls(canPaintControls(layout)),
       screenScale(Scale::ofScreen()),
+      menuBar(layout.menu),
       messageFont(createMessageFont()) {}
 
 HWND FormWindow::realized() const {
@@ -81,16 +94,19 @@ HWND FormWindow::realized() const {
 
 void FormWindow::realize() {
   const FrameStyle style = styleOf(frame);
-  RECT outer = {0, 0, screenScale.pixelsX(layout.width), 0};
-  AdjustWindowRectEx(&outer, style.style, FALSE, style.extended);
+  const SIZE outer = outerSize(style.style, style.extended);
   isRealized = true;
+  const HMENU bar = menuBar.createBar();
   CreateWindowExW(style.extended, formClass, wide(layout.caption).c_str(),
-                  style.style | (paintsControls ? 0U : WS_CLIPCHILDREN), 0, 0, outer.right - outer.left,
-                  screenScale.pixelsY(layout.height), nullptr, nullptr, moduleInstance(), this);
+                  style.style | (paintsControls ? 0U : WS_CLIPCHILDREN), 0, 0, outer.cx, outer.cy, nullptr, bar,
+                  moduleInstance(), this);
+  if (hwnd == nullptr && bar != nullptr) DestroyMenu(bar);
+  menuBar.attach(hwnd);
   try {
     if (hwnd == nullptr) throw Error(error::outOfMemory);
     tips.emplace(hwnd);
     fitRows();
+    if (isDialog()) centre(nullptr);
     createControls(layout.controls);
   } catch (...) {
     discardWindows();
@@ -126,8 +142,9 @@ void FormWindow::fitRows() {
   }
 }
 
-RECT FormWindow::place(const Bounds& bounds) const {
-  RECT at = screenScale.pixels(bounds);
+RECT FormWindow::place(const ControlLayout& row) const {
+  RECT at = screenScale.pixels(row.bounds);
+  if (isDialog()) return stretched(at, row.stretch);
   at.top = at.top * rowsHave / rowsNeed;
   at.bottom = at.bottom * rowsHave / rowsNeed;
   return at;
@@ -207,6 +224,7 @@ void FormWindow::hide() {
   closeDialogsOf(hwnd);
   ShowWindow(hwnd, SW_HIDE);
   lastPointer.reset();
+  if (isDialog()) lastFocus = nullptr;  // whoever opens it again begins at its first control
   for (const auto& control : controls) control->onHidden();
 }
 
@@ -237,5 +255,9 @@ ComboBox& FormWindow::comboBox(const std::string& name) { return find<ComboBox>(
 TextBox& FormWindow::textBox(const std::string& name) { return find<TextBox>(name, 0); }
 PictureBox& FormWindow::pictureBox(const std::string& name, int index) { return find<PictureBox>(name, index); }
 Label& FormWindow::label(const std::string& name) { return find<Label>(name, 0); }
+Button& FormWindow::button(const std::string& name, int index) { return find<Button>(name, index); }
+Image& FormWindow::image(const std::string& name) { return find<Image>(name, 0); }
+ListView& FormWindow::listView(const std::string& name) { return find<ListView>(name, 0); }
+Preview& FormWindow::preview(const std::string& name) { return find<Preview>(name, 0); }
 
 }  // namespace nerida

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/win32/back_buffer.h"
+#include "platform/win32/form_menu.h"
 #include "platform/win32/handles.h"
 #include "platform/win32/module.h"
 #include "platform/win32/native_control.h"
@@ -50,6 +51,11 @@ class FormWindow final : public Window {
   TextBox& textBox(const std::string& name) override;
   PictureBox& pictureBox(const std::string& name, int index) override;
   Label& label(const std::string& name) override;
+  Button& button(const std::string& name, int index) override;
+  Image& image(const std::string& name) override;
+  ListView& listView(const std::string& name) override;
+  Preview& preview(const std::string& name) override;
+  FormMenu& menu() override { return menuBar; }
 
   // For the controls.
   HWND window() const { return hwnd; }
@@ -57,8 +63,10 @@ class FormWindow final : public Window {
   const Scale& scale() const { return screenScale; }
   BackBuffer& backBuffer() { return buffer; }
   Tooltips& tooltips() { return *tips; }
-  // Where a part of the layout lies on the form, in pixels of its client area.
-  RECT place(const Bounds& bounds) const;
+  // Where a control lies on the form, in pixels of its client area.
+  RECT place(const ControlLayout& row) const;
+  // Whether the form is sized by its user, and is moved through like a dialog.
+  bool isDialog() const { return frame == FormFrame::dialog; }
   // The topmost control at a point of the client area.
   const NativeControl* controlAt(POINT point) const;
   // Whether the pointer has moved since the last time: the system also tells of moves when a window came or went below
@@ -113,6 +121,11 @@ class FormWindow final : public Window {
   void discardWindows();
   void installHook();
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
+  bool onMenu(UINT message, WPARAM wParam, LPARAM lParam);
+  SIZE outerSize(DWORD style, DWORD extendedStyle) const;  // of the window as it is laid out
+  RECT stretched(RECT at, const Stretch& stretch) const;
+  void keepLeastSize(MINMAXINFO& limits) const;
+  void placeControls();
   LRESULT runHook(UINT message, WPARAM wParam, LPARAM lParam);
   void paintWithControls();
   void drawControls(HDC target);
@@ -128,7 +141,7 @@ class FormWindow final : public Window {
   void createControls(std::span<const ControlLayout> rows);
   NativeControl* controlOf(HWND window) const;
   void leaveUnreachableFocus();
-  void centre();
+  void centre(HWND after);
   void endModal();
   template <class Interface>
   Interface& find(const std::string& name, int index);
@@ -139,6 +152,7 @@ class FormWindow final : public Window {
   const bool paintsControls;  // the form paints them with itself
   const WindowClasses classes;
   const Scale screenScale;
+  SystemFormMenu menuBar;
   UniqueFont messageFont;
   BackBuffer buffer;
   std::vector<std::unique_ptr<NativeControl>> controls;

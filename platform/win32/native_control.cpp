@@ -9,7 +9,11 @@ namespace nerida {
 
 NativeControl::NativeControl(FormWindow& owner, const ControlLayout& row) : parent(owner), place(row) {}
 
-std::wstring NativeControl::accessibleName() const { return wide(*place.tooltip != '\0' ? place.tooltip : place.name); }
+std::wstring NativeControl::accessibleName() const {
+  if (*place.tooltip != '\0') return wide(place.tooltip);
+  const bool isNamed = place.kind == ControlKind::listView || place.kind == ControlKind::preview;
+  return wide(isNamed && *place.text != '\0' ? place.text : place.name);
+}
 
 HWND NativeControl::createWindow(const wchar_t* windowClass, const wchar_t* text, DWORD style, DWORD extendedStyle,
                                  int height, void* parameter) {
@@ -51,7 +55,7 @@ void NativeControl::show(bool visible) {
   ShowWindow(handle, visible ? SW_SHOWNA : SW_HIDE);
 }
 
-RECT NativeControl::area() const { return parent.place(place.bounds); }
+RECT NativeControl::area() const { return parent.place(place); }
 
 bool NativeControl::isReachable(POINT point) const {
   const RECT at = area();
@@ -61,6 +65,13 @@ bool NativeControl::isReachable(POINT point) const {
 void NativeControl::detach() { handle = nullptr; }
 
 void NativeControl::onCommand(WORD) {}
+
+LRESULT NativeControl::onNotify(const NMHDR&) { return 0; }
+
+void NativeControl::reposition() {
+  const RECT at = area();
+  SetWindowPos(handle, nullptr, at.left, at.top, at.right - at.left, at.bottom - at.top, SWP_NOZORDER | SWP_NOACTIVATE);
+}
 
 LRESULT NativeControl::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   const bool isMouse = message >= WM_MOUSEFIRST && message <= WM_MOUSELAST;

@@ -23,7 +23,7 @@ class NativeControl {
   HWND window() const { return handle; }
   FormWindow& form() const { return parent; }
   const ControlLayout& layout() const { return place; }
-  // The tooltip, else the control's name: what assistive tools call it.
+  // What assistive tools call it: the tooltip; else the text of a control that does not show it; else the name.
   std::wstring accessibleName() const;
 
   void show(bool visible);
@@ -31,7 +31,9 @@ class NativeControl {
   RECT area() const;  // pixels of the form's client area
 
   virtual LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
-  virtual void onCommand(WORD notification);  // from the control's own window, through the form
+  // From the control's own window, through the form.
+  virtual void onCommand(WORD notification);
+  virtual LRESULT onNotify(const NMHDR& notification);
   // Whether the keyboard can come here now: it is shown, and its middle is neither folded away nor covered.
   virtual bool takesFocus() const { return false; }
   virtual bool isTabStop() const { return takesFocus(); }
@@ -41,6 +43,7 @@ class NativeControl {
   virtual void draw(HDC) {}
 
   virtual void onHidden() {}  // with its form or alone
+  virtual void reposition();  // its form has another size
 
   void detach();  // the window is gone
 

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "platform/win32/com.h"
 #include "platform/win32/text.h"
 
 namespace nerida {
@@ -55,6 +56,18 @@ std::string takeText(BSTR& text) {
 }  // namespace
 
 Error errorFromStatus(HRESULT status) { return Error(errorNumber(status)); }
+
+Error errorFromComponent(HRESULT status, IUnknown& component, REFIID calledInterface) {
+  ComPtr<ISupportErrorInfo> support;
+  ComPtr<IErrorInfo> info;
+  const bool tellsMore = SUCCEEDED(component.QueryInterface(IID_ISupportErrorInfo, support.putVoid())) &&
+                         support->InterfaceSupportsErrorInfo(calledInterface) == S_OK &&
+                         GetErrorInfo(0, info.put()) == S_OK;
+  BSTR description = nullptr;
+  if (tellsMore) info->GetDescription(&description);
+  const std::string text = takeText(description);
+  return text.empty() ? errorFromStatus(status) : Error(errorNumber(status), text);
+}
 
 Error errorFromInvoke(HRESULT status, EXCEPINFO& exception) {
   if (status != DISP_E_EXCEPTION) return errorFromStatus(status);

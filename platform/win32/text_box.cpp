@@ -37,7 +37,8 @@ LRESULT SystemTextBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   }
   // Keys that are no text would only beep.
   if (message == WM_CHAR && (wParam == VK_TAB || wParam == VK_RETURN || wParam == VK_ESCAPE)) return 0;
-  if (message == WM_SETFOCUS && form().showsFocus()) PostMessageW(window(), EM_SETSEL, 0, -1);
+  const bool selectsAll = form().showsFocus() || form().isDialog();
+  if (message == WM_SETFOCUS && selectsAll) PostMessageW(window(), EM_SETSEL, 0, -1);
   return ControlOf::onMessage(message, wParam, lParam);
 }
 

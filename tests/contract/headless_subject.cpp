@@ -33,11 +33,30 @@ void draw(const std::string& line, std::int32_t x, std::int32_t y, Rgb& color) {
   if (std::string_view(what.data()) == "focus" && onEdge && (x + y) / 15 % 2 == 0) color ^= 0xFFFFFF;
 }
 
+SearchResult preparedSearch(std::string& query) {
+  if (query == "refuse") throw Error(513, "The database is locked.");
+  if (query == "fail") throw Error(error::outOfMemory);
+  if (query == "rewrite") {
+    query = "rewritten";
+    return {};
+  }
+  return {{0, {"Windmill", "Sailboat", "No such file"}}, {0, {3310, 2105, 9999}}, {0, {0, 0x20, 0}}, 3};
+}
+
 class HeadlessSubject : public Subject {
  public:
   HeadlessSubject() {
     platform.registry.keys["Software"];
     platform.registry.keys[keyPath()];
+    platform.files.drives["c:"] = DriveType::fixed;
+    platform.files.files = {"c:\\contract\\plain.txt", "c:\\contract\\picture.bmp", "c:\\contract\\hidden.txt"};
+    platform.files.hiddenFiles = {"c:\\contract\\hidden.txt"};
+    platform.files.pictures = {"c:\\contract\\picture.bmp"};
+    platform.search.search = preparedSearch;
+    platform.search.categories = [] {
+      return CategoryList{
+          {0, {"Buildings", "Vehicles", "Nothing"}}, {0, {"Mills", "Salt & Pepper", "Boats"}}, {0, {2, 1, 0}}, 2};
+    };
   }
 
   Platform services() override { return platform.services(); }
@@ -100,6 +119,27 @@ class HeadlessSubject : public Subject {
       return answer == ColorAnswer::cancel ? std::nullopt : std::optional(answer == ColorAnswer::own ? start : typed);
     };
   }
+
+  bool chooseMenu(Window& window, const std::string& name, int index) override {
+    return window.isVisible() && inner(window).menuBar.choose(name, index);
+  }
+
+  bool pressButton(Window& window, const std::string& name, int index) override {
+    headless::PushButton& button = inner(window).pushButton(name, index);
+    if (!window.isVisible() || !button.isVisible()) return false;
+    button.press();
+    return true;
+  }
+
+  bool clickItem(Window& window, const std::string& list, int item) override {
+    if (!window.isVisible()) return false;
+    inner(window).items(list).click(item);
+    return true;
+  }
+
+  std::string folder() override { return "c:\\contract\\"; }
+  void installSearch() override { platform.search.installed = true; }
+  void removeSearch() override { platform.search.installed = false; }
 
   void close(Window& window) override { inner(window).userCloses(); }
   void click(Window& window) override { inner(window).userClicks(); }

@@ -41,6 +41,9 @@ class Subject {
   virtual bool pressPart(Window& window, const std::string& picture, std::size_t part) = 0;
   // The answer to the next colour dialog: a colour that is typed into it, its own one, or Cancel.
   virtual void answerColorDialog(ColorAnswer answer, Rgb typed) = 0;
+  virtual bool chooseMenu(Window& window, const std::string& name, int index) = 0;
+  virtual bool pressButton(Window& window, const std::string& name, int index) = 0;
+  virtual bool clickItem(Window& window, const std::string& list, int item) = 0;
   virtual void close(Window& window) = 0;
   virtual void click(Window& window) = 0;
   // Runs once, while the next modal window waits.
@@ -58,6 +61,14 @@ class Subject {
   // A key of the machine-wide registry that is empty before each test and gone after it: "Software\NeridaContract".
   virtual void storeText(const std::string& name, const std::string& text) = 0;
   virtual void storeBytes(const std::string& name, const std::string& bytes) = 0;
+
+  // A folder, with a backslash at its end, that holds "plain.txt", "picture.bmp", "hidden.txt", which is hidden, and
+  // the folder "below", which is empty. There are a drive c: and no drive b:.
+  virtual std::string folder() = 0;
+
+  // Whether there is a search component; it answers as prepared_search.h says.
+  virtual void installSearch() = 0;
+  virtual void removeSearch() = 0;
 
   // An object with the properties Name (text) and Number (32 bit), and the methods Add(a, b), Fill(ByRef variable),
   // Increase(ByRef number), Refuse, which raises error 380 "Bad value", and Crash, which raises 91 without a text.

@@ -1,5 +1,7 @@
 #include <windows.h>
 
+#include <commctrl.h>
+
 #include <optional>
 #include <stdexcept>
 #include <thread>
@@ -8,11 +10,15 @@
 #include "platform/win32/button_bar.h"
 #include "platform/win32/combo_box.h"
 #include "platform/win32/desktop.h"
+#include "platform/win32/files.h"
 #include "platform/win32/label.h"
+#include "platform/win32/list_view.h"
 #include "platform/win32/picture_box.h"
 #include "platform/win32/prompts.h"
+#include "platform/win32/push_button.h"
 #include "platform/win32/registry.h"
 #include "platform/win32/scale.h"
+#include "platform/win32/search_component.h"
 #include "platform/win32/settings.h"
 #include "platform/win32/shell.h"
 #include "platform/win32/text.h"
@@ -20,6 +26,7 @@
 #include "platform/win32/window.h"
 #include "tests/contract/contract_object.h"
 #include "tests/contract/subject.h"
+#include "tests/contract/win32_catalog.h"
 #include "tests/windows/bars/accessible_client.h"
 
 namespace nerida {
@@ -83,7 +90,9 @@ class Win32Subject : public Subject {
     CoUninitialize();
   }
 
-  Platform services() override { return {desktop, windows, prompts, registry, settings, shell}; }
+  Platform services() override {
+    return {desktop, windows, prompts, registry, settings, shell, files, searchComponents};
+  }
 
   bool press(Window& window, const std::string& bar, const std::string& key) override {
     const auto& pressed = dynamic_cast<SystemButtonBar&>(window.buttonBar(bar));
@@ -155,6 +164,30 @@ class Win32Subject : public Subject {
   void answerColorDialog(ColorAnswer answer, Rgb typed) override {
     user = std::jthread([answer, typed] { answerDialog(answer, typed); });
   }
+  bool chooseMenu(Window& window, const std::string& name, int index) override {
+    return chooseMenuEntry(windowOf(window), window.menu(), name, index);
+  }
+
+  bool pressButton(Window& window, const std::string& name, int index) override {
+    const HWND button = dynamic_cast<SystemPushButton&>(window.button(name, index)).window();
+    if (!IsWindowVisible(button)) return false;
+    clickAt(button, {5, 5});
+    return true;
+  }
+
+  bool clickItem(Window& window, const std::string& list, int item) override {
+    const HWND view = dynamic_cast<SystemListView&>(window.listView(list)).window();
+    pump();
+    RECT place = {LVIR_LABEL, 0, 0, 0};
+    if (!IsWindowVisible(view)) return false;
+    if (!SendMessageW(view, LVM_GETITEMRECT, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(&place))) return false;
+    clickAt(view, {place.left + 3, (place.top + place.bottom) / 2});
+    return true;
+  }
+
+  std::string folder() override { return scratch.path(); }
+  void installSearch() override { search.setPresent(true); }
+  void removeSearch() override { search.setPresent(false); }
 
   void close(Window& window) override {
     PostMessageW(windowOf(window), WM_SYSCOMMAND, SC_CLOSE, 0);
@@ -262,6 +295,8 @@ class Win32Subject : public Subject {
     for (const wchar_t* path : settingsPaths) RegDeleteKeyW(HKEY_CURRENT_USER, path);
   }
 
+  const ScratchFolder scratch;
+  SearchRegistration search;
   SystemDesktop desktop;
   SystemWindowFactory windows;
   SystemPrompts prompts;
@@ -269,6 +304,8 @@ class Win32Subject : public Subject {
   SystemSettings settings;
   SystemShell shell;
   std::jthread user;
+  SystemFiles files;
+  SystemSearchComponents searchComponents;
 };
 
 }  // namespace

@@ -171,7 +171,8 @@ class TakenFrame : public WindowFactory {
 TEST(AnimationThatCannotBeBuilt, IsReportedAndStaysLoaded) {
   headless::HeadlessPlatform platform;
   TakenFrame windows(platform.windows);
-  Library library({platform.screen, windows, platform.boxes, platform.registry, platform.settings, platform.shell});
+  Library library({platform.screen, windows, platform.boxes, platform.registry, platform.settings, platform.shell,
+                   platform.files, platform.search});
   library.state.controls = 1;
   platform.boxes.answers = {PromptAnswer::ok};
   library.animation.load();

@@ -15,7 +15,12 @@ class ControlCatalog : public DeskTest {
 
 TEST_F(ControlCatalog, WithTheToolbarHiddenLeavesItsPropertyAlone) {
   EXPECT_EQ(control->ShowCatalog(), form("frmBrowser").handle());
-  EXPECT_THAT(take(), ElementsAre("frmToolbar: hook", "frmBrowser: show topmost", "model: IsCatalogShowing = True"));
+  EXPECT_THAT(take(), ElementsAre("frmToolbar: hook", "txtSearch: text Enter Keyword(s) for Model Search",
+                                  "mnuSearch(0): caption Previous Search", "mnuCategory(0): caption Surprise Me",
+                                  "model: GetLookStyleList ByRef Empty, ByRef Empty, ByRef Empty", "cmbStyles: clear",
+                                  "cmbStyles: add Basic Draw", "cmbStyles: add Shaded", "cmbStyles: add Ink Outline",
+                                  "model: LookStyleName", "cmbStyles: select 1", "frmBrowser: show topmost",
+                                  "model: IsCatalogShowing = True"));
   EXPECT_TRUE(library.state.gFormShown[catalogIndex]);
   EXPECT_TRUE(control->IsCatalogVisible());
 }
@@ -24,7 +29,7 @@ TEST_F(ControlCatalog, WithTheToolbarShownHidesItFirstAndTellsTheModelTwice) {
   show();
   take();
   EXPECT_EQ(control->ShowCatalog(), form("frmBrowser").handle());
-  EXPECT_THAT(take(),
+  EXPECT_THAT(withoutCatalog(take()),
               ElementsAre("model: IsToolbarShowing = False", "frmToolbar: hide", "model: IsToolbarShowing = False",
                           "frmBrowser: show topmost", "model: IsCatalogShowing = True"));
   EXPECT_FALSE(control->IsToolbarVisible());
@@ -35,9 +40,10 @@ TEST_F(ControlCatalog, ThatIsShownAlreadyIsClosedWithTheToolbarAndShownAgain) {
   show();
   take();
   control->ShowCatalog();
-  EXPECT_THAT(takeModelCalls(), ElementsAre("model: ModelName", "model: IsCatalogShowing = False",
-                                            "model: DoneShowingModelCatalog = True", "model: IsToolbarShowing = False",
-                                            "model: IsToolbarShowing = False", "model: IsCatalogShowing = True"));
+  EXPECT_THAT(withoutCatalog(takeModelCalls()),
+              ElementsAre("model: ModelName", "model: IsCatalogShowing = False",
+                          "model: DoneShowingModelCatalog = True", "model: IsToolbarShowing = False",
+                          "model: IsToolbarShowing = False", "model: IsCatalogShowing = True"));
   EXPECT_TRUE(control->IsCatalogVisible());
 }
 
@@ -56,10 +62,11 @@ TEST_F(ControlCatalog, AModelThatRaisesOnTheCatalogIsToldThatItIsClosed) {
   model->failures.emplace("IsCatalogShowing", Error(380, "Invalid property value"));
   answerBoxes(1);
   EXPECT_EQ(control->ShowCatalog(), form("frmBrowser").handle());
-  EXPECT_THAT(take(), ElementsAre("frmToolbar: hook", "frmBrowser: show topmost", "model: IsCatalogShowing = True",
-                                  "box [Zephra Toolbar] Error showing Model Catalog: Invalid property value",
-                                  "frmBrowser: hide", "model: IsCatalogShowing = False",
-                                  "model: DoneShowingModelCatalog = True"));
+  EXPECT_THAT(
+      withoutCatalog(take()),
+      ElementsAre("frmToolbar: hook", "frmBrowser: show topmost", "model: IsCatalogShowing = True",
+                  "box [Zephra Toolbar] Error showing Model Catalog: Invalid property value", "frmBrowser: hide",
+                  "model: IsCatalogShowing = False", "model: DoneShowingModelCatalog = True"));
   EXPECT_FALSE(library.state.gFormShown[catalogIndex]);
 }
 
@@ -107,7 +114,7 @@ TEST_F(ControlCatalog, HelpLoadsTheCatalogWhoseWindowOwnsIt) {
   control->ToolbarDispose();
   take();
   control->ShowHelp();
-  EXPECT_THAT(take(), ElementsAre("frmBrowser: load", helpLine));
+  EXPECT_THAT(withoutCatalog(take()), ElementsAre("frmBrowser: load", helpLine));
 }
 
 TEST_F(ControlCatalog, HelpWithoutAWindowIsToldOnce) {

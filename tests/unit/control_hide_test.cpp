@@ -93,7 +93,8 @@ TEST_P(CatalogHideFailure, IsToldWithTheGeneralMessageAndTheToolbarIsStillHidden
   answerBoxes(1);
   EXPECT_EQ(control->ToolbarHide(), 0);
   EXPECT_THAT(take(), ElementsAre("frmToolbar: unhook", "frmBrowser: unhook", "frmBrowser: hide", "model: ModelName",
-                                  errorBox, "model: IsToolbarShowing = False", "frmToolbar: hide"));
+                                  errorBox, "model: IsCatalogShowing = False", "model: DoneShowingModelCatalog = True",
+                                  "model: IsToolbarShowing = False", "frmToolbar: hide"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Errors, CatalogHideFailure, testing::Values(5, 7, 438));

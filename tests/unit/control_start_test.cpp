@@ -11,7 +11,7 @@ class ControlStart : public DeskTest {
  protected:
   Lines startLines() {
     create();
-    return withoutBars(take());
+    return withoutCatalog(withoutBars(take()));
   }
 };
 
@@ -147,6 +147,7 @@ TEST_F(ControlStart, LoadsTheCatalogInTheEndIfItFailedBefore) {
 }
 
 TEST_F(ControlStart, ReadsPathsBeforeColoursAndFormsAndTellsUnderTheHourglass) {
+  platform.files.files = platform.files.pictures = {"\\zpcatbut.bmp"};
   platform.registry.keys.clear();
   platform.boxes.duringBox = [this] { EXPECT_EQ(platform.screen.pointer, MousePointer::hourglass); };
   answerBoxes(1);
@@ -212,10 +213,12 @@ TEST(ControlStartWithASpoiltToolbar, ReportsItAndLeavesTheFormUnmarkedAsFarAsItW
   headless::HeadlessPlatform platform;
   SpoiltWindows windows(platform.windows);
   platform.registry.keys = {{"Software", {}}};
-  Library library({platform.screen, windows, platform.boxes, platform.registry, platform.settings, platform.shell});
+  Library library({platform.screen, windows, platform.boxes, platform.registry, platform.settings, platform.shell,
+                   platform.files, platform.search});
+  platform.files.files = platform.files.pictures = {"\\zpcatbut.bmp"};
   platform.boxes.answers.assign(3, PromptAnswer::ok);
   auto control = std::make_unique<NeridaWindow>(library);
-  EXPECT_THAT(withoutBars(platform.transcript.take()),
+  EXPECT_THAT(withoutCatalog(withoutBars(platform.transcript.take())),
               ElementsAre("pointer 11", HasSubstr("Registry access error at Tarnwell"), "frmToolbar: load", errorBox,
                           "frmLineThicknessMenu: load", "frmSurfaceColors: load", "frmLighting: load",
                           "frmBrowser: load", "pointer 0"));

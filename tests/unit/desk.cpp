@@ -1,5 +1,6 @@
 #include "tests/unit/desk.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace nerida {
@@ -16,6 +17,16 @@ Lines withoutBars(Lines lines) {
   return lines;
 }
 
+Lines withoutCatalog(Lines lines) {
+  std::erase_if(lines, [](const std::string& line) {
+    const auto inside = {"search component: ",  "picture ",    "mnu",
+                         "txtSearch: ",         "cmbStyles: ", "model: GetLookStyleList",
+                         "model: LookStyleName"};
+    return std::ranges::any_of(inside, [&](const char* start) { return line.starts_with(start); });
+  });
+  return lines;
+}
+
 Desk::Desk() {
   platform.registry.keys = {
       {"Software", {}},
@@ -24,12 +35,15 @@ Desk::Desk() {
        {{"Dictionary", "C:\\Zephra"}, {"System", "C:\\Zephra\\System"}, {"Help", "C:\\Zephra\\Help"}}},
       {"Software\\Tarnwell\\Zephra\\1.0", {{"Models", "C:\\Zephra\\Models"}}},
   };
+  platform.files.files = platform.files.pictures = {"C:\\Zephra\\zpcatbut.bmp"};
   model->values = {
       {"ModelName", std::string("Windmill")},
       {"InterfaceFlags", std::int32_t{0}},
       {"IsToolbarShowing", false},
       {"IsCatalogShowing", false},
       {"DoneShowingModelCatalog", false},
+      {"TarnwellXFile", std::string()},
+      {"ModelScale", std::int32_t{0}},
       {"LookStyleName", std::string("Shaded")},
       {"LookStyle", std::string()},
       {"AnimationFrameCount", std::int32_t{0}},

@@ -45,6 +45,7 @@ class Desk {
   headless::FormWindow& form(const std::string& name) const;
   headless::FormWindow& toolbar() const { return form("frmToolbar"); }
   headless::Bar& bar(const std::string& name, int index = 0) const { return toolbar().bar(name, index); }
+  headless::FormWindow& catalog() const { return form("frmBrowser"); }
   headless::Combo& styles() const { return toolbar().combo("cmbStyles"); }
 
   // A press as the mouse does it: the toolbar takes the activation while the button is held.
@@ -71,6 +72,9 @@ class Desk {
 
 // Without the lines of button bars, which a loading toolbar writes many of.
 Lines withoutBars(Lines lines);
+
+// Without the lines of what the catalog reads and fills while it loads and comes up.
+Lines withoutCatalog(Lines lines);
 
 class DeskTest : public testing::Test, protected Desk {};
 

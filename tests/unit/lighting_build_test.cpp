@@ -106,7 +106,8 @@ class TakenLamp : public WindowFactory {
 TEST(LightingThatCannotBeBuilt, IsReportedOnceAndNeverShown) {
   headless::HeadlessPlatform platform;
   TakenLamp windows(platform.windows);
-  Library library({platform.screen, windows, platform.boxes, platform.registry, platform.settings, platform.shell});
+  Library library({platform.screen, windows, platform.boxes, platform.registry, platform.settings, platform.shell,
+                   platform.files, platform.search});
   library.state.controls = 1;
   platform.boxes.answers = {PromptAnswer::ok};
   library.lighting.load();

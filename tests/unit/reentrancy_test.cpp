@@ -12,26 +12,22 @@ struct Action {
 
 void PrintTo(const Action& action, std::ostream* out) { *out << action.name; }
 
-const char* const members[] = {"ModelName",
-                               "InterfaceFlags",
-                               "IsToolbarShowing",
-                               "IsCatalogShowing",
-                               "DoneShowingModelCatalog",
-                               "LookStyleName",
-                               "LookStyle",
-                               "AnimationFrameCount",
-                               "AnimationCurrentFrame",
-                               "AnimationState",
-                               "GetLookStyleList",
-                               "RefreshDisplay",
-                               "MoveX",
-                               "ResetHome",
-                               "SetOrientation",
-                               "StopTimer",
+const char* const members[] = {"ModelName",           "InterfaceFlags",          "IsToolbarShowing",
+                               "IsCatalogShowing",    "DoneShowingModelCatalog", "LookStyleName",
+                               "LookStyle",           "TarnwellXFile",           "ModelScale",
+                               "AnimationFrameCount", "AnimationCurrentFrame",   "AnimationState",
+                               "GetLookStyleList",    "RefreshDisplay",          "MoveX",
+                               "ResetHome",           "SetOrientation",          "StopTimer",
                                "StartTimer"};
 
 void pressIfThere(Desk& desk, const char* bar, int index, const char* key) {
   if (desk.platform.windows.find("frmToolbar")) desk.bar(bar, index).press(key);
+}
+
+// Does something in the catalog's window, if it is there.
+template <class Action>
+void inCatalog(Desk& desk, Action action) {
+  if (headless::FormWindow* catalog = desk.platform.windows.find("frmBrowser")) action(*catalog);
 }
 
 void activate(Desk& desk, bool active) {
@@ -75,6 +71,26 @@ const Action events[] = {
      [](Desk& d) {
        if (auto* w = d.platform.windows.find("frmBrowser")) w->userCloses();
      }},
+};
+
+const Action catalogEvents[] = {
+    {"Search", [](Desk& d) { inCatalog(d, [](auto& catalog) { catalog.text("txtSearch").enter("mill"); }); }},
+    {"Insert",
+     [](Desk& d) {
+       inCatalog(d, [](auto& catalog) {
+         catalog.previewControl("zephBrowser").file = catalog.previewControl("zephBrowser").model = "Ship";
+         catalog.pushButton("cmdInsert", 2).press();
+       });
+     }},
+    {"InsertByMenu", [](Desk& d) { inCatalog(d, [](auto& catalog) { catalog.menuBar.choose("mnuInsert"); }); }},
+    {"CatalogStyle",
+     [](Desk& d) {
+       inCatalog(d, [](auto& catalog) {
+         headless::Combo& styles = catalog.combo("cmbStyles");
+         if (styles.count() > 0) styles.choose(styles.item(0));
+       });
+     }},
+    {"Exit", [](Desk& d) { inCatalog(d, [](auto& catalog) { catalog.menuBar.choose("mnuExit"); }); }},
 };
 
 const Action gentle[] = {
@@ -176,6 +192,7 @@ TEST_P(UserEvents, SurviveBeingUndoneFromInsideAnyMemberAndAnyBox) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Events, UserEvents, testing::ValuesIn(events));
+INSTANTIATE_TEST_SUITE_P(CatalogEvents, UserEvents, testing::ValuesIn(catalogEvents));
 
 class RaisingMember : public testing::TestWithParam<const char*> {};
 

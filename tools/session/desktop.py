@@ -50,6 +50,18 @@ def type_text(text):
     _run("xdotool", "type", "--delay", 30, text)
 
 
+def focused_title():
+    """The title of the window that keys go to, empty for none."""
+    done = subprocess.run(["xdotool", "getwindowfocus", "getwindowname"], stdin=subprocess.DEVNULL,
+                          stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=False)
+    return done.stdout.strip()
+
+
+def resize(title, width, height):
+    """Has the window manager give the window of that title another size."""
+    _run("xdotool", "search", "--onlyvisible", "--name", f"^{title}$", "windowsize", "--sync", width, height)
+
+
 def _import(area, target):
     """The command that reads the screen, or the area (left, top, right, bottom) of it."""
     crop = []

@@ -4,7 +4,8 @@
 
 namespace nerida {
 
-// The registry entries of an installed product, without which every start of the control tells the user about them.
+// What of an installed product every start of the control looks for, and tells the user when it is missing: registry
+// entries, the catalog's logo, and a search component (see prepared_search.h).
 // Whatever was there before is gone afterwards.
 class Installation {
  public:

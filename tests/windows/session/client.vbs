@@ -64,6 +64,9 @@ Class Model
   End Sub
 
   Public Property Get ModelName : ModelName = Read("ModelName") : End Property
+  Public Property Let ModelName(value) : Write "ModelName", value : End Property
+  Public Property Let TarnwellXFile(value) : Note "TarnwellXFile :=", Typed(value) : End Property
+  Public Property Let ModelScale(value) : Note "ModelScale :=", Typed(value) : End Property
   Public Property Get InterfaceFlags : InterfaceFlags = Read("InterfaceFlags") : End Property
   Public Property Get AnimationFrameCount : AnimationFrameCount = Read("AnimationFrameCount") : End Property
   Public Property Get AnimationCurrentFrame : AnimationCurrentFrame = Read("AnimationCurrentFrame") : End Property

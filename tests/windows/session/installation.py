@@ -21,9 +21,9 @@ def register(control, arch):
     _wine(rf"C:\windows\{folder}\regsvr32.exe", "/s", windows_path(control))
 
 
-def set_paths(resources):
+def set_paths(resources, models):
     """Tells the control where its files lie."""
     for name in ("Dictionary", "System", "Help", "Styles"):
         set_value(name, windows_path(resources))
     set_value("LiveText", "Zephra 1.0")
-    set_value("Models", windows_path(resources) + r"\Models", KEY + r"\1.0")
+    set_value("Models", windows_path(models), KEY + r"\1.0")

@@ -30,7 +30,9 @@ def main():
     programs.host = options.build / "host" / "app" / "zephra-host.exe"
     programs.models = options.models
     installation.register(programs.control, programs.arch)
-    installation.set_paths(programs.resources)
+    installation.register(options.build / "tests" / "windows" / "catalog" / "prepared_search.dll", programs.arch)
+    installation.register(options.build / "host" / "preview" / "ZephraPreview.ocx", programs.arch)
+    installation.set_paths(programs.resources, programs.models)
     unittest.main(argv=[sys.argv[0], *rest], verbosity=2)
 
 

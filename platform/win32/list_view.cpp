@@ -1,0 +1,203 @@
+#include "platform/win32/list_view.h"
+
+#include <utility>
+
+#include "platform/error.h"
+#include "platform/win32/accessible_name.h"
+#include "platform/win32/bitmap_files.h"
+#include "platform/win32/form_window.h"
+#include "platform/win32/text.h"
+
+namespace nerida {
+namespace {
+
+// To ourselves, when what runs now has ended.
+constexpr UINT tellCountMessage = WM_APP;
+constexpr UINT clickMessage = WM_APP + 1;
+
+// A bitmap with alpha for an image list.
+UniqueBitmap bitmapOf(const Picture& picture) {
+  BITMAPINFO info = {};
+  info.bmiHeader = {sizeof info.bmiHeader, picture.width, -picture.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+  void* start = nullptr;
+  UniqueBitmap bitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &start, nullptr, 0));
+  if (!bitmap) throw Error(error::outOfMemory);
+  std::copy(picture.pixels.begin(), picture.pixels.end(), static_cast<std::uint32_t*>(start));
+  return bitmap;
+}
+
+}  // namespace
+
+SystemListView::SystemListView(FormWindow& owner, const ControlLayout& row) : ControlOf(owner, row) {
+  constexpr DWORD style =
+      LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS;
+  createStandard(WC_LISTVIEWW, accessibleName().c_str(), style, WS_EX_CLIENTEDGE);
+  send(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP, LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP);
+  LVCOLUMNW column = {};
+  column.mask = LVCF_WIDTH;
+  column.cx = 1;
+  send(LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
+  fitColumn();
+}
+
+LRESULT SystemListView::send(UINT message, WPARAM wParam, LPARAM lParam) const {
+  return SendMessageW(window(), message, wParam, lParam);
+}
+
+void SystemListView::fitColumn() {
+  RECT client = {};
+  GetClientRect(window(), &client);
+  send(LVM_SETCOLUMNWIDTH, 0, client.right);
+}
+
+void SystemListView::reposition() {
+  ControlOf::reposition();
+  fitColumn();
+}
+
+void SystemListView::setSmallIcons(const std::string& folder, const std::string& file,
+                                   std::span<const char* const> specs) {
+  const int percent = form().scale().percent();
+  const int width = standardPictureWidth * percent / 100;
+  const int height = standardPictureHeight * percent / 100;
+  icons.reset(ImageList_Create(width, height, ILC_COLOR32, static_cast<int>(specs.size()) + 1, 0));
+  const auto add = [&](Picture picture) {
+    picture.width = width;
+    picture.height = height;
+    picture.pixels.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    ImageList_Add(icons.get(), bitmapOf(picture).get(), nullptr);
+  };
+  add({});  // of items without an icon, whose texts are to begin where the others' do
+  const auto resources = openBitmapFile(folder, file);
+  for (const char* spec : specs) add(resources->picture(parseBitmapSpec(spec), percent).value_or(Picture{}));
+  send(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(icons.get()));
+}
+
+void SystemListView::clear() {
+  selecting = true;
+  LVITEMW none = {};
+  none.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+  send(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&none));
+  selecting = false;
+  items.clear();
+  clicked = -1;
+  tellCount();
+}
+
+// The system's list takes its time for every change of its count; it is told once.
+void SystemListView::add(ListItem item) {
+  items.push_back(std::move(item));
+  if (std::exchange(countIsDue, true)) return;
+  PostMessageW(window(), tellCountMessage, 0, 0);
+}
+
+void SystemListView::tellCount() {
+  countIsDue = false;
+  if (std::exchange(told, count()) == count() && count() == 0) return;
+  send(LVM_SETITEMCOUNT, items.size());
+  fitColumn();  // beside a scroll bar, if there is one now
+}
+
+ListItem SystemListView::item(int index) const {
+  if (index < 0 || index >= count()) throw Error(error::subscriptOutOfRange);
+  return items[static_cast<std::size_t>(index)];
+}
+
+int SystemListView::selected() const {
+  return static_cast<int>(send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+}
+
+void SystemListView::select(int index) {
+  if (index < 0 || index >= count()) throw Error(error::subscriptOutOfRange);
+  tellCount();
+  selecting = true;
+  LVITEMW chosen = {};
+  chosen.state = chosen.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+  send(LVM_SETITEMSTATE, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&chosen));
+  selecting = false;
+  send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(index), FALSE);
+}
+
+void SystemListView::refresh() {
+  tellCount();
+  InvalidateRect(window(), nullptr, TRUE);
+  UpdateWindow(window());
+}
+
+bool SystemListView::takesFocus() const {
+  const SIZE extent = size();
+  return isReachable({extent.cx / 2, extent.cy / 2});
+}
+
+void SystemListView::describe(LVITEMW& shown) const {
+  if (shown.iItem < 0 || shown.iItem >= count()) return;
+  const ListItem& described = items[static_cast<std::size_t>(shown.iItem)];
+  if ((shown.mask & LVIF_TEXT) != 0 && shown.cchTextMax > 0) {
+    lstrcpynW(shown.pszText, wide(described.text).c_str(), shown.cchTextMax);
+  }
+  if ((shown.mask & LVIF_IMAGE) != 0) shown.iImage = described.smallIcon;
+}
+
+// A press is a click when the button has come up again; what the program does with it must not run inside of it.
+LRESULT SystemListView::onNotify(const NMHDR& notification) {
+  switch (notification.code) {
+    case LVN_GETDISPINFOW: {
+      // The system gives its notifications as what we may not change, but waits for this one to be filled in.
+      auto& asked = const_cast<NMLVDISPINFOW&>(reinterpret_cast<const NMLVDISPINFOW&>(notification));
+      describe(asked.item);
+      break;
+    }
+    case LVN_ITEMCHANGED: {
+      const auto& change = reinterpret_cast<const NMLISTVIEW&>(notification);
+      const bool isSelected = (change.uNewState & LVIS_SELECTED) != 0 && (change.uOldState & LVIS_SELECTED) == 0;
+      if (selecting || !isSelected || change.iItem < 0) break;
+      mouseSelected = mouseIsDown;
+      if (!mouseIsDown) clickLater(change.iItem);
+      break;
+    }
+    case NM_CLICK: {
+      const auto& click = reinterpret_cast<const NMITEMACTIVATE&>(notification);
+      mouseSelected = false;
+      if (click.iItem >= 0) clickLater(click.iItem);
+      break;
+    }
+    default:
+      break;
+  }
+  return 0;
+}
+
+void SystemListView::clickLater(int index) {
+  if (std::exchange(clicked, index) < 0) PostMessageW(window(), clickMessage, 0, 0);
+}
+
+LRESULT SystemListView::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_GETOBJECT:
+      if (const auto answer = answerWithName(window(), accessibleName(), wParam, lParam)) return *answer;
+      break;
+    case tellCountMessage:
+      if (countIsDue) tellCount();
+      return 0;
+    case clickMessage:
+      if (const int index = std::exchange(clicked, -1); index >= 0 && index < count()) form().raise(itemClick, index);
+      return 0;
+    case WM_LBUTTONDOWN: {
+      mouseIsDown = true;
+      const LRESULT result = ControlOf::onMessage(message, wParam, lParam);
+      mouseIsDown = false;
+      return result;
+    }
+    case WM_LBUTTONUP: {
+      const LRESULT result = ControlOf::onMessage(message, wParam, lParam);
+      if (std::exchange(mouseSelected, false)) clickLater(selected());
+      return result;
+    }
+    default:
+      if (form().handleNavigation(message, wParam, this)) return 0;
+      break;
+  }
+  return ControlOf::onMessage(message, wParam, lParam);
+}
+
+}  // namespace nerida

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/win32/native_control.h"
+
+namespace nerida {
+
+class SystemPushButton final : public ControlOf<Button> {
+ public:
+  SystemPushButton(FormWindow& owner, const ControlLayout& row);
+
+ private:
+  LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+  void onCommand(WORD notification) override;
+  bool takesFocus() const override;
+};
+
+}  // namespace nerida
