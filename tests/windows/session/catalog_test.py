@@ -1,17 +1,18 @@
 """The catalog with real input, on a search component of prepared answers and the real preview: finding, previewing,
 inserting, its menus, its size, and what it tells when something is missing."""
 
-from session_case import SessionCase, desktop, main, wait_for
+from session_case import SessionCase, desktop, installation, main, wait_for
 
 OPENED = ["GetLookStyleList", "LookStyleName", "IsCatalogShowing := Boolean True"]
 CLOSED = ["ModelName", "IsCatalogShowing := Boolean False", "DoneShowingModelCatalog := Boolean True"]
 
 
-class Catalog(SessionCase):
+class CatalogCase(SessionCase):
     """One catalog for all tests of a class, with the keyboard in it."""
 
     @classmethod
     def setUpClass(cls):
+        installation.forget_searches()
         super().setUpClass()
         cls.client.do("hide")
         cls.client.forget()
@@ -62,6 +63,8 @@ class Catalog(SessionCase):
         self.probe.gone(class_name="#32770")
         return box["title"], texts
 
+
+class Catalog(CatalogCase):
     def test_the_search_button_searches(self):
         self.press("Keywords for a model search")
         desktop.key("Home", "shift+End")
@@ -140,7 +143,7 @@ class Catalog(SessionCase):
         self.assertEqual(grown["Preview of the model"][1:], [0, across, down])
 
 
-class Opening(Catalog):
+class Opening(CatalogCase):
     def setUp(self):
         pass  # what was told by then is looked at
 
@@ -153,7 +156,7 @@ class Opening(Catalog):
         self.assertIn(" Search Results (3)", self.names())
 
 
-class Closing(Catalog):
+class Closing(CatalogCase):
     def test_closing_tells_the_model(self):
         self.open_menu("alt+f")
         desktop.key("c")

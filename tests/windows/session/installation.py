@@ -5,6 +5,7 @@ import subprocess
 from tools.session.probe import windows_path
 
 KEY = r"HKLM\Software\Tarnwell\Zephra"
+SEARCHES = r"HKCU\Software\VB and VBA Program Settings\Zephra\Browser"
 
 
 def _wine(*words):
@@ -19,6 +20,12 @@ def set_value(name, text, key=KEY):
 def register(control, arch):
     folder = "syswow64" if arch == "x86" else "system32"
     _wine(rf"C:\windows\{folder}\regsvr32.exe", "/s", windows_path(control))
+
+
+def forget_searches():
+    """A catalog that nobody has used yet."""
+    subprocess.run(["wine", "reg", "delete", SEARCHES, "/f"], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                   stderr=subprocess.DEVNULL)  # it fails where there are none
 
 
 def set_paths(resources, models):
