@@ -9,6 +9,7 @@
 #include "platform/win32/com.h"
 #include "platform/win32/handles.h"
 #include "platform/win32/image.h"
+#include "platform/win32/picture_bitmap.h"
 #include "platform/win32/text.h"
 
 namespace nerida {
@@ -93,9 +94,7 @@ std::shared_ptr<const StoredPicture> SystemFiles::loadPicture(const std::string&
                       SUCCEEDED(picture->get_Handle(&content));
   if (!loaded) throw Error(error::invalidPicture);
   const auto bitmap = reinterpret_cast<HANDLE>(static_cast<UINT_PTR>(content));
-  UniqueBitmap copy(static_cast<HBITMAP>(CopyImage(bitmap, IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
-  if (!copy) throw Error(error::outOfMemory);
-  return std::make_shared<SystemPicture>(std::move(copy));
+  return std::make_shared<SystemPicture>(pictureOf(static_cast<HBITMAP>(bitmap)));
 }
 
 }  // namespace nerida

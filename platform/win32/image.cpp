@@ -3,27 +3,26 @@
 #include <windowsx.h>
 
 #include <algorithm>
+#include <cmath>
 
+#include "platform/picture_scale.h"
 #include "platform/win32/form_window.h"
 #include "platform/win32/paint_scope.h"
+#include "platform/win32/picture_bitmap.h"
 #include "platform/win32/window_class.h"
 
 namespace nerida {
 
-void SystemPicture::draw(HDC target, const RECT& area) const {
-  BITMAP description = {};
-  if (GetObjectW(bitmap.get(), sizeof description, &description) == 0) return;
-  const double scale = std::min(static_cast<double>(area.right - area.left) / description.bmWidth,
-                                static_cast<double>(area.bottom - area.top) / description.bmHeight);
-  const int width = static_cast<int>(description.bmWidth * scale);
-  const int height = static_cast<int>(description.bmHeight * scale);
-  const UniqueMemoryDc source(CreateCompatibleDC(target));
-  const Selected content(source.get(), bitmap.get());
-  SetStretchBltMode(target, HALFTONE);
-  SetBrushOrgEx(target, 0, 0, nullptr);
-  StretchBlt(target, (area.left + area.right - width) / 2, (area.top + area.bottom - height) / 2, width, height,
-             source.get(), 0, 0, description.bmWidth, description.bmHeight, SRCCOPY);
+namespace {
+
+// As large as the room allows.
+SIZE sizeIn(SIZE room, const Picture& picture) {
+  const double scale =
+      std::min(static_cast<double>(room.cx) / picture.width, static_cast<double>(room.cy) / picture.height);
+  return {std::max(1L, std::lround(picture.width * scale)), std::max(1L, std::lround(picture.height * scale))};
 }
+
+}  // namespace
 
 SystemImage::SystemImage(FormWindow& owner, const ControlLayout& row) : ControlOf(owner, row) {
   createOwn(pictureBoxClass, 0);
@@ -31,12 +30,24 @@ SystemImage::SystemImage(FormWindow& owner, const ControlLayout& row) : ControlO
 
 void SystemImage::setPicture(std::shared_ptr<const StoredPicture> picture) {
   shownPicture = std::dynamic_pointer_cast<const SystemPicture>(picture);
+  fitted.reset();
   InvalidateRect(window(), nullptr, TRUE);
 }
 
-void SystemImage::paintOn(HDC target) const {
-  const SIZE extent = size();
-  if (shownPicture) shownPicture->draw(target, {0, 0, extent.cx, extent.cy});
+SIZE SystemImage::fit() {
+  const SIZE wanted = sizeIn(size(), shownPicture->content);
+  if (fitted && fittedSize.cx == wanted.cx && fittedSize.cy == wanted.cy) return wanted;
+  fitted = bitmapOf(scaled(shownPicture->content, wanted.cx, wanted.cy));
+  return fittedSize = wanted;
+}
+
+void SystemImage::paintOn(HDC target) {
+  const SIZE room = size();
+  if (!shownPicture || shownPicture->content.pixels.empty() || room.cx <= 0 || room.cy <= 0) return;
+  const SIZE shown = fit();
+  const UniqueMemoryDc source(CreateCompatibleDC(target));
+  const Selected content(source.get(), fitted.get());
+  BitBlt(target, (room.cx - shown.cx) / 2, (room.cy - shown.cy) / 2, shown.cx, shown.cy, source.get(), 0, 0, SRCCOPY);
 }
 
 LRESULT SystemImage::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -1,19 +1,15 @@
 #pragma once
 
+#include "platform/bitmap_resources.h"
 #include "platform/win32/handles.h"
 #include "platform/win32/native_control.h"
 
 namespace nerida {
 
-// A picture as the system draws it.
-class SystemPicture final : public StoredPicture {
- public:
-  explicit SystemPicture(UniqueBitmap content) : bitmap(std::move(content)) {}
-  // In the middle of an area, as large as it allows.
-  void draw(HDC target, const RECT& area) const;
-
- private:
-  UniqueBitmap bitmap;
+// A picture as it was read.
+struct SystemPicture final : StoredPicture {
+  explicit SystemPicture(Picture picture) : content(std::move(picture)) {}
+  const Picture content;
 };
 
 class SystemImage final : public ControlOf<Image> {
@@ -23,9 +19,12 @@ class SystemImage final : public ControlOf<Image> {
 
  private:
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-  void paintOn(HDC target) const;
+  void paintOn(HDC target);
+  SIZE fit();
 
   std::shared_ptr<const SystemPicture> shownPicture;
+  UniqueBitmap fitted;  // the picture in the size of the control
+  SIZE fittedSize = {};
 };
 
 }  // namespace nerida

@@ -6,6 +6,7 @@
 #include "platform/win32/accessible_name.h"
 #include "platform/win32/bitmap_files.h"
 #include "platform/win32/form_window.h"
+#include "platform/win32/picture_bitmap.h"
 #include "platform/win32/text.h"
 
 namespace nerida {
@@ -15,16 +16,7 @@ namespace {
 constexpr UINT tellCountMessage = WM_APP;
 constexpr UINT clickMessage = WM_APP + 1;
 
-// A bitmap with alpha for an image list.
-UniqueBitmap bitmapOf(const Picture& picture) {
-  BITMAPINFO info = {};
-  info.bmiHeader = {sizeof info.bmiHeader, picture.width, -picture.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-  void* start = nullptr;
-  UniqueBitmap bitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &start, nullptr, 0));
-  if (!bitmap) throw Error(error::outOfMemory);
-  std::copy(picture.pixels.begin(), picture.pixels.end(), static_cast<std::uint32_t*>(start));
-  return bitmap;
-}
+constexpr std::uint32_t barelyVisible = 0x01000000;
 
 }  // namespace
 
@@ -65,6 +57,8 @@ void SystemListView::setSmallIcons(const std::string& folder, const std::string&
     picture.width = width;
     picture.height = height;
     picture.pixels.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    // A picture in which nothing is opaque would be taken for one without transparency, and all of it be black.
+    picture.pixels.back() |= barelyVisible;
     ImageList_Add(icons.get(), bitmapOf(picture).get(), nullptr);
   };
   add({});  // of items without an icon, whose texts are to begin where the others' do

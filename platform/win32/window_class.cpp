@@ -19,6 +19,7 @@ bool registerClass(const wchar_t* name, WNDPROC procedure, HBRUSH background) {
   description.lpfnWndProc = procedure;
   description.hInstance = moduleInstance();
   description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  description.hIcon = LoadIconW(moduleInstance(), MAKEINTRESOURCEW(1));  // the library's own; other modules have none
   description.hbrBackground = background;
   description.lpszClassName = name;
   return RegisterClassExW(&description) != 0;

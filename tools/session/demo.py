@@ -5,7 +5,7 @@ import sys
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[1]))
-from session import desktop, demo_popups  # noqa: E402
+from session import demo_catalog, demo_popups, desktop  # noqa: E402
 from session.tour import PICTURES, Tour  # noqa: E402
 
 
@@ -43,6 +43,7 @@ class Demo(Tour):
         self.unfold()
         self.show("Fold the movement group away")
         demo_popups.run(self)
+        demo_catalog.run(self)
         self.other_program()
         desktop.click((self.document["rect"][0] + 20, self.document["rect"][3] - 60))
         self.probe.gone("Zephra Toolbar")
@@ -52,13 +53,10 @@ class Demo(Tour):
 def main():
     for old in PICTURES.glob("*.png"):
         old.unlink()
-    demo = Demo(sys.argv[1])
-    try:
+    with Demo(sys.argv[1]) as demo:
         demo.run()
-        demo.close()
-    finally:
-        if demo.host.process.poll() is None:
-            demo.host.close()
+    with Demo(sys.argv[1], steps_before=demo.step) as demo:
+        demo_catalog.search_again(demo)
 
 
 if __name__ == "__main__":

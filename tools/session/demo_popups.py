@@ -57,7 +57,7 @@ def animation(tour):
     playback = tour.open_popup("Animation Playback")
     names = ("Play", "Next Frame", "Frame number", "Single Playback")
     play, step, frame, mode = (tour.place_in(playback, name) for name in names)
-    tour.show("Open the playback of the animation")
+    tour.show("Open the playback of the animation", tour.host.wait_for_call("let AnimationState"))
     calls = tour.choose(play, "let AnimationState")
     time.sleep(0.5)
     tour.show("Play", calls)

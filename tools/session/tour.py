@@ -15,11 +15,20 @@ QUIET = ("get ", "GetLightDirection")
 
 
 class Tour:
-    def __init__(self, model, place=(140, 60, 900, 720)):
+    def __init__(self, model, place=(140, 60, 900, 720), steps_before=0):
         self.probe = Probe()
         self.host = Host(model, place=place)
         self.document = self.probe.window("Zephra Document", timeout=30)
-        self.step = 0
+        self.step = steps_before
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, kind, *_):
+        if kind is None:
+            self.close()
+        elif self.host.process.poll() is None:
+            self.host.close()
 
     def show(self, what, calls=(), settle=0.3):
         """The line and the picture of a step."""
