@@ -1,4 +1,4 @@
-"""The README's picture: a model in chosen colours, and a palette open below the toolbar."""
+"""The README's pictures: a model in chosen colours with a palette open below the toolbar, and the catalog."""
 
 import sys
 import time
@@ -6,6 +6,7 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[1]))
 from session import desktop  # noqa: E402
+from session.demo_catalog import Catalog  # noqa: E402
 from session.tour import Tour  # noqa: E402
 
 PLACE = (60, 4, 900, 1000)
@@ -22,10 +23,7 @@ def area(tour, palette):
     return left - MARGIN, top - OBJECT_HEIGHT, right + MARGIN, below + MARGIN // 2
 
 
-def main():
-    model, picture = sys.argv[1:]
-    tour = Tour(model, PLACE)
-    tour.activate()
+def toolbar(tour, picture):
     tour.unfold()
     tour.press("Tilt Left", "RotateY", 5)
     tour.press("Tilt Up", "RotateX")
@@ -39,7 +37,24 @@ def main():
     time.sleep(1.5)  # until the colour's name shows
     desktop.picture(picture, area(tour, palette))
     desktop.key("Escape")
-    tour.close()
+
+
+def catalog(tour, picture):
+    window = Catalog(tour)
+    window.open()
+    window.search("bird")
+    window.choose_hit(2)
+    time.sleep(1)  # until the model is drawn
+    desktop.picture(picture, tour.probe.describe(window.window)["rect"])
+    window.close()
+
+
+def main():
+    model, folder = sys.argv[1], Path(sys.argv[2])
+    with Tour(model, PLACE) as tour:
+        tour.activate()
+        toolbar(tour, folder / "toolbar.png")
+        catalog(tour, folder / "catalog.png")
 
 
 if __name__ == "__main__":
