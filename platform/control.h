@@ -107,9 +107,9 @@ class Label : public Control {
 
   // A label with one of these belongs to the drawn control that it captions; assistive tools are told of that one.
   std::function<void()> mouseMove;
-  std::function<void()> mouseDown;
-  std::function<void()> mouseUp;  // wherever the left button came up again
-  std::function<void()> click;    // after it, when that was on the label
+  std::function<void()> mouseDown;  // any button, as on the control that it captions
+  std::function<void()> mouseUp;    // wherever the button came up again
+  std::function<void()> click;      // after it, when that was on the label
 };
 
 }  // namespace nerida

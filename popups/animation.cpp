@@ -15,11 +15,12 @@ frmAnimation::frmAnimation(State& state, WindowFactory& windows, Desktop& deskto
       paths(paths),
       messages(messages) {}
 
-// The form stays usable with the bars as far as they could be built.
+// The form stays usable with the bars as far as they could be built. That it has been hidden it remembers from one
+// window to the next.
 void frmAnimation::Form_Load() {
   resetState();
   connectEvents();
-  Popup::Form_Load();
+  markLoaded();
   const auto report = [this](const Error&) { messages.show("Unable to initialize Animation toolbar", toolbarTitle); };
   handleWith(report, [this] { buildBars(); });
 }

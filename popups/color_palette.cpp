@@ -32,6 +32,7 @@ void ColorPalette::ShowSelf(std::int16_t x, std::int16_t y) {
     load();
     hovered = previouslyHovered = {};
     keysInUse = moreColorsPressed = false;
+    hideFrame();  // that of an opening which the model cut short
     paintRecentSwatches();
     const OpenerWatch toolbar(state);
     preselect();

@@ -28,10 +28,16 @@ LRESULT SystemLabel::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
+    case WM_RBUTTONDOWN:
+    case WM_RBUTTONDBLCLK:
+    case WM_MBUTTONDOWN:
+    case WM_MBUTTONDBLCLK:
       SetCapture(window());
       form().raise(mouseDown);
       return 0;
     case WM_LBUTTONUP:
+    case WM_RBUTTONUP:
+    case WM_MBUTTONUP:
       if (GetCapture() == window()) onButtonUp(point);
       return 0;
     case WM_GETOBJECT:

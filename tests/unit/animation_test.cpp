@@ -6,6 +6,7 @@ namespace {
 
 using testing::Contains;
 using testing::ElementsAre;
+using testing::IsEmpty;
 using testing::Not;
 
 class Animation : public AnimationTest {};
@@ -108,6 +109,18 @@ TEST_F(Animation, ClosesOnce) {
   open();
   popup().HideSelf();
   EXPECT_THAT(take(), ElementsAre("frmAnimation: hide", foregroundLine()));
+}
+
+TEST_F(Animation, ClosesOnceBeforeItHasEverShownAndRemembersThat) {
+  popup().load();
+  take();
+  popup().HideSelf();
+  EXPECT_THAT(take(), ElementsAre("frmAnimation: hide", foregroundLine()));
+  popup().unload();
+  popup().load();
+  take();
+  popup().HideSelf();
+  EXPECT_THAT(take(), IsEmpty());
 }
 
 TEST_F(Animation, EscapeClosesIt) {

@@ -245,6 +245,8 @@ TEST_F(LineThickness, AScaleThatIsNoNumberIsLeftAlone) {
 }
 
 TEST_F(LineThickness, ClosesOnceBeforeItHasEverShown) {
+  open(std::int16_t{75});
+  menu().HideSelf();
   menu().unload();
   menu().load();
   take();

@@ -175,6 +175,33 @@ TEST_F(OpenMarks, FollowManyQuickPresses) {
   }
 }
 
+// A choice is told to the toolbar, which forgets every popup; a lamp and the style's colour are not told.
+TEST_F(OpenMarks, OfTheLightFallWithAChoiceInAnotherPopup) {
+  const auto pressPart = [this](const char* picture) { form("frmSurfaceColors").picture(picture).pressPart(0); };
+  const auto pressThickness = [this] { form("frmLineThicknessMenu").bar("barThick").press("Thin"); };
+  const struct {
+    int bar;
+    const char* key;
+    std::function<void()> choose;
+    int state;  // of the Lighting button at its next press
+  } cases[] = {{2, "SurfaceColorFill", [&] { pressPart("pnlColor"); }, buttonDown},
+               {2, "SurfaceColorFill", [&] { pressPart("picMoreColors"); }, buttonDown},
+               {0, "LineThickness", pressThickness, buttonDown},
+               {2, "SurfaceColorFill", [&] { pressPart("picLSSwatch"); }, buttonUp}};
+  for (const auto& c : cases) {
+    platform.boxes.colorChoices = {255};
+    bar("barLS", c.bar).press(c.key);
+    bar("barWorld").press("Lighting");
+    ASSERT_TRUE(library.lighting.isVisible());
+    c.choose();
+    take();
+    bar("barWorld").press("Lighting");
+    EXPECT_EQ(take().front(), "barWorld(0): Lighting state " + std::to_string(c.state)) << c.key;
+    control->ToolbarHide();
+    show();
+  }
+}
+
 TEST_F(OpenMarks, AreAllSetOrAllClearedByTheReportOfAChoice) {
   library.toolbar.afterChoice(1);
   bar("barLS", 1).press("LineColorFill");

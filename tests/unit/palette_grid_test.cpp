@@ -10,6 +10,12 @@ using testing::IsEmpty;
 class PaletteGrid : public testing::Test, protected PaletteDesk {
  protected:
   void SetUp() override { showPalette(roles[2]); }
+  // What a press chooses where the pointer has not moved.
+  std::string hoveredByPress() {
+    take();
+    panel().pressAt({0}, {0});
+    return events();
+  }
 };
 
 TEST_F(PaletteGrid, EveryNamedColorButBlackIsFramedWhenItIsTheModels) {
@@ -48,6 +54,51 @@ TEST_F(PaletteGrid, ARecentColorIsFramedInItsLowerRow) {
   explicitColor(4);
   palette().ShowSelf(0, 0);
   EXPECT_THAT(frame(), ElementsAre(120 + 3 * 270, 2040, 120 + 4 * 270 - 15, 2310 - 15));
+}
+
+TEST_F(PaletteGrid, TheFrameGoesWhenThePaletteCloses) {
+  explicitColor(255);
+  open();
+  ASSERT_FALSE(frame().empty());
+  window().userCloses();
+  EXPECT_THAT(frame(), IsEmpty());
+}
+
+TEST_F(PaletteGrid, OpensWithoutTheFrameOfAnOpeningThatTheModelCutShort) {
+  explicitColor(255);
+  model->hooks[role->color] = [this] { control->ToolbarHide(); };
+  open();
+  ASSERT_FALSE(palette().isVisible());
+  model->hooks.clear();
+  show();
+  model->values[role->isDefault] = true;
+  open();
+  EXPECT_THAT(frame(), IsEmpty());
+}
+
+TEST_F(PaletteGrid, LoadedAnewHasForgottenItsSelectionAndItsFrame) {
+  library.recentColors.PrevColor[0] = 77;
+  open();
+  choose(1, 0);
+  explicitColor(255);
+  open();
+  palette().unload();
+  palette().load();
+  EXPECT_THAT(frame(), IsEmpty());
+  explicitColor(77);
+  palette().ShowSelf(0, 0);
+  EXPECT_THAT(frame(), ElementsAre(120, 2040, 375, 2295)) << "no named colour keeps the recent ones from being found";
+}
+
+TEST_F(PaletteGrid, ForgetsTheCellThatWasUnderThePointerWhenItClosed) {
+  open();
+  moveToCell(1, 1);
+  window().userCloses();
+  open();
+  panel().pressAt({0}, {0});
+  EXPECT_EQ(events(), "");
+  moveToCell(1, 1);
+  EXPECT_THAT(frame(), testing::Not(IsEmpty()));
 }
 
 TEST_F(PaletteGrid, APreselectedCellIsChosenByAPressWithoutAMove) {
@@ -212,11 +263,59 @@ TEST_F(PaletteGrid, MoreColorsLooksPressedWhileItIsHeldAndOpensWhereverItIsLetGo
   EXPECT_THAT(take(), testing::Contains(testing::StartsWith("color dialog")));
 }
 
+TEST_F(PaletteGrid, MoreColorsIsNotPressedAnyMoreWhenThePaletteComesBack) {
+  open();
+  window().picture("picMoreColors").pressAt({1}, {1});
+  platform.windows.activateElsewhere();
+  open();
+  EXPECT_FALSE(window().picture("picMoreColors").parts()[0].pressed);
+}
+
+TEST_F(PaletteGrid, AnEntryIsMarkedOnceWhicheverOfItsControlsIsUnderThePointer) {
+  open();
+  const auto overPicture = [this](const char* name) { window().picture(name).movePointer({1}, {1}); };
+  const auto overLabel = [this](const char* name) { window().labelControl(name).movePointer(); };
+  const auto isHot = [this](const char* name) { return window().picture(name).parts()[0].hot; };
+  for (int round = 0; round < 2; ++round) {
+    overPicture("picMoreColors");
+    EXPECT_TRUE(isHot("picMoreColors"));
+    take();
+    overLabel("lblMoreColors");
+    EXPECT_THAT(take(), IsEmpty());
+    overLabel("lblLSColor");
+    EXPECT_THAT(take(), ElementsAre("picMoreColors: repaint", "picLSSwatch: repaint"));
+    EXPECT_TRUE(isHot("picLSSwatch"));
+    EXPECT_FALSE(isHot("picMoreColors"));
+    overPicture("picLSSwatch");
+    EXPECT_THAT(take(), IsEmpty());
+    overLabel("lblMoreColors");
+    EXPECT_THAT(take(), ElementsAre("picLSSwatch: repaint", "picMoreColors: repaint"));
+    overLabel("lblLSColor");
+  }
+}
+
+TEST_F(PaletteGrid, MoreColorsLooksPressedBelowItsLabelTooAndNoMoreWhileTheDialogIsUp) {
+  open();
+  take();
+  window().labelControl("lblMoreColors").press();
+  EXPECT_THAT(take(), ElementsAre("picMoreColors: repaint"));
+  EXPECT_TRUE(window().picture("picMoreColors").parts()[0].pressed);
+  bool pressedDuringDialog = true;
+  platform.boxes.duringColorDialog = [&] {
+    pressedDuringDialog = window().picture("picMoreColors").parts()[0].pressed;
+  };
+  platform.boxes.colorChoices = {std::nullopt};
+  window().labelControl("lblMoreColors").release(true);
+  EXPECT_FALSE(pressedDuringDialog);
+}
+
 TEST_F(PaletteGrid, NothingStaysMarkedWhenThePointerHasLeft) {
   explicitColor(255);
   open();
   window().mouseLeft();
   EXPECT_THAT(frame(), ElementsAre(120, 1080, 375, 1335)) << "the pointer has not been there";
+  EXPECT_EQ(hoveredByPress(), let("255&") + closing());
+  open();
   window().labelControl("lblMoreColors").movePointer();
   take();
   window().mouseLeft();

@@ -153,7 +153,41 @@ TEST_F(PaletteKeyboard, EveryEntryIsCaptionedAndNoCellIs) {
   for (const char* entry : {"picMoreColors", "picLSSwatch"}) EXPECT_TRUE(window().picture(entry).parts()[0].captioned);
 }
 
+TEST_F(PaletteKeyboard, UnmarksTheEntryUnderThePointer) {
+  open();
+  window().labelControl("lblMoreColors").movePointer();
+  take();
+  panel().key(Key::right);
+  EXPECT_THAT(take(), ElementsAre("picMoreColors: repaint", "pnlColor: repaint"));
+  EXPECT_FALSE(window().picture("picMoreColors").parts()[0].hot);
+}
+
+TEST_F(PaletteKeyboard, StaysInSightWhenItComesBackFromAnEntry) {
+  open();
+  platform.windows.focus.isShown = true;
+  EXPECT_EQ(focusBoxes(), 0U);
+  window().picture("picMoreColors").setFocus();
+  EXPECT_TRUE(window().picture("picMoreColors").parts()[0].focused);
+  EXPECT_EQ(focusBoxes(), 0U);
+  panel().setFocus();
+  EXPECT_FALSE(window().picture("picMoreColors").parts()[0].focused);
+  EXPECT_EQ(focusBoxes(), 1U);
+}
+
+TEST_F(PaletteKeyboard, IsInNoCellOfAPaletteThatHasLostTheFocus) {
+  open();
+  EXPECT_TRUE(panel().parts()[0].focused);
+  platform.windows.activateElsewhere();
+  EXPECT_FALSE(panel().parts()[0].focused);
+}
+
 TEST_F(PaletteKeyboard, TheKeyboardChoosesTheEntries) {
+  open();
+  window().picture("picMoreColors").setFocus();
+  EXPECT_FALSE(window().picture("picMoreColors").key(Key::down));
+  platform.boxes.colorChoices = {4711};
+  EXPECT_TRUE(window().picture("picMoreColors").key(Key::choose));
+  EXPECT_THAT(takeModelCalls(), ElementsAre("model: SurfaceColor = 4711&"));
   open();
   window().picture("picLSSwatch").setFocus();
   EXPECT_TRUE(palette().isVisible());

@@ -27,6 +27,42 @@ TEST_P(Palette, OfAnExplicitColorFramesIt) {
   EXPECT_THAT(frame(), ElementsAre(120 + 5 * 270, 525 + 2 * 270 + 15, 120 + 6 * 270 - 15, 525 + 3 * 270));
 }
 
+TEST_P(Palette, DrawsItselfAnewAtEachStep) {
+  const std::string name = role->form;
+  const std::string released = "barLS(" + std::to_string(role->bar) + "): " + role->key + " state 0";
+  const std::string colorLet = std::string("model: ") + role->color + " = ";
+  explicitColor(255);
+  palette().ShowSelf(30, 40);
+  EXPECT_THAT(take(), ElementsAre("pnlColor: repaint", std::string("model: ") + role->isDefault, "picLSSwatch: repaint",
+                                  std::string("model: ") + role->color, "pnlColor: repaint",
+                                  name + ": show topmost at (30, 40)", "pnlColor: repaint", "picMoreColors: repaint",
+                                  "picLSSwatch: repaint"));  // the focus has come
+  panel().pressPart(1);
+  EXPECT_THAT(take(), ElementsAre("pnlColor: repaint", "picLSSwatch: repaint", colorLet + "13209&", name + ": hide",
+                                  "pnlColor: repaint", foregroundLine(), released));
+  model->values[role->isDefault] = true;
+  palette().ShowSelf(30, 40);
+  take();
+  platform.boxes.colorChoices = {2};
+  window().picture("picMoreColors").pressPart(0);
+  Lines lines = take();
+  lines.erase(lines.begin(),
+              std::ranges::find(lines, colorLet + "2&"));  // the dialog takes the focus, and gives it back
+  EXPECT_THAT(lines, ElementsAre(colorLet + "2&", "pnlColor: repaint", name + ": hide", "pnlColor: repaint",
+                                 foregroundLine(), released));
+}
+
+TEST_P(Palette, HandsTheColorBackWithoutClosingWhenItIsAskedTo) {
+  explicitColor(255);
+  palette().ShowSelf(30, 40);
+  take();
+  palette().SetStyleDefault();
+  EXPECT_THAT(take(), ElementsAre("pnlColor: repaint", "picLSSwatch: repaint", std::string("model: ") + role->restore));
+  EXPECT_THAT(frame(), IsEmpty());
+  EXPECT_TRUE(window().picture("picLSSwatch").parts()[0].pressed);
+  EXPECT_TRUE(palette().isVisible());
+}
+
 TEST_P(Palette, ChoosingACellSetsTheColorAndCloses) {
   open();
   choose(3, 1);  // Green
@@ -161,6 +197,20 @@ TEST_P(Palette, ClosedWithoutAChoiceHandsTheEarlierChoiceOverAgain) {
   take();
   window().labelControl("lblMoreColors").click();
   EXPECT_THAT(take(), testing::Contains(testing::EndsWith(" from 32768")));
+}
+
+TEST_P(Palette, ClosedOnARecentColorHandsItOver) {
+  open();
+  platform.boxes.colorChoices = {4711};
+  window().labelControl("lblMoreColors").click();
+  library.toolbar.setShownColor(colorRole(), 1);
+  open();
+  window().userCloses();
+  open();
+  platform.boxes.colorChoices = {std::nullopt};
+  take();
+  window().labelControl("lblMoreColors").click();
+  EXPECT_THAT(take(), testing::Contains(testing::EndsWith(" from 4711")));
 }
 
 TEST_P(Palette, WithoutAnyChoiceHandsNothingOver) {
