@@ -14,6 +14,11 @@ class SystemTextBox final : public ControlOf<TextBox> {
  private:
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   bool takesFocus() const override;
+  void centreText(RECT& client);
+  void paintMargins() const;
+
+  int marginAbove = 0;  // pixels between the edge and the line of text
+  int marginBelow = 0;
 };
 
 }  // namespace nerida
