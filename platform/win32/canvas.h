@@ -31,7 +31,7 @@ class SystemCanvas final : public Canvas {
   void focusBox(Twips x1, Twips y1, Twips x2, Twips y2) override;
 
  private:
-  POINT pixel(Twips x, Twips y) const { return {scale.pixelsX(x), scale.pixelsY(y) - above}; }
+  POINT pixel(Twips x, Twips y) const { return {scale.drawnX(x), scale.drawnY(y) - above}; }
   Box pixels(Twips x1, Twips y1, Twips x2, Twips y2) const;
   void line(POINT from, POINT to, PixelColor color);
   void fill(const Box& area, PixelColor color) { target.fill(area, color); }

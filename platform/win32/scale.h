@@ -8,7 +8,7 @@
 
 namespace nerida {
 
-// The fineness of the screen. Lengths in twips become pixels here and nowhere else, rounded half to even.
+// The fineness of the screen. Twips become pixels here and nowhere else, lengths rounded half to even.
 class Scale {
  public:
   static Scale ofScreen() {
@@ -27,6 +27,11 @@ class Scale {
             pixelsY(bounds.top + bounds.height)};
   }
 
+  // A place in a drawing, rounded half up: what repeats every so many whole pixels does so on the screen, though it
+  // begin in the middle of one.
+  int drawnX(Twips place) const { return drawn(place, dpiX); }
+  int drawnY(Twips place) const { return drawn(place, dpiY); }
+
   // The place of a pixel, to the nearest twip.
   Twips twipsX(int pixel) const { return twips(pixel, dpiX); }
   Twips twipsY(int pixel) const { return twips(pixel, dpiY); }
@@ -37,6 +42,8 @@ class Scale {
 
  private:
   static int pixels(Twips length, int dpi) { return static_cast<int>(std::nearbyint(length.value * dpi / 1440.0)); }
+
+  static int drawn(Twips place, int dpi) { return static_cast<int>(std::floor(place.value * dpi / 1440.0 + 0.5)); }
 
   static Twips twips(int pixel, int dpi) { return {static_cast<std::int32_t>(std::nearbyint(pixel * 1440.0 / dpi))}; }
 

@@ -3,7 +3,7 @@
 #include <set>
 #include <thread>
 
-#include "platform/canvas.h"
+#include "platform/win32/canvas.h"
 #include "platform/win32/desktop.h"
 #include "platform/win32/prompts.h"
 #include "tests/windows/bars/accessible_client.h"
@@ -161,6 +161,29 @@ TEST_F(DrawnControls, PassALabelsMouseOn) {
   EXPECT_EQ(heard, (Keys{"over", "down", "up", "click", "down", "up"}));
 }
 
+TEST_F(DrawnControls, TakeEveryButtonOfTheMouseAlikeOnThePictureAndOnItsLabel) {
+  Label& label = form->label("label");
+  label.mouseDown = [this] { note("down"); };
+  label.mouseUp = [this] { note("up"); };
+  label.click = [this] { note("click"); };
+  PictureBox& panel = form->pictureBox("panel");
+  panel.mouseDown = [this](Twips, Twips) { note("panel down"); };
+  panel.mouseUp = [this](Twips, Twips) { note("panel up"); };
+  constexpr std::array<UINT, 2> buttons[] = {
+      {WM_LBUTTONDOWN, WM_LBUTTONUP}, {WM_RBUTTONDOWN, WM_RBUTTONUP}, {WM_MBUTTONDOWN, WM_MBUTTONUP}};
+  for (const auto& [down, up] : buttons) {
+    heard.clear();
+    send(panelWindow(), down, 5, 5);
+    send(panelWindow(), up, 5, 5);
+    send(at(110, 5), down, 5, 5);
+    send(at(110, 5), up, 5, 5);
+    EXPECT_EQ(heard, (Keys{"panel down", "panel up", "down", "up", "click"})) << down;
+  }
+  heard.clear();
+  send(at(110, 5), WM_RBUTTONDBLCLK, 5, 5);
+  EXPECT_EQ(heard, Keys{"down"}) << "the second of two quick presses";
+}
+
 TEST_F(DrawnControls, LayAnUprightBarOutFromTopToBottomInTheGivenOrder) {
   ButtonBar& bar = form->buttonBar("bar");
   bar.buttonPress = [this](const std::string& pressed) { note(pressed); };
@@ -182,6 +205,34 @@ TEST_F(DrawnControls, ShowABarsValueLikeALatchedButton) {
   EXPECT_NE(bar.state(2) & STATE_SYSTEM_PRESSED, 0);
   form->buttonBar("bar").setValue("b", 0);
   EXPECT_EQ(bar.state(2) & STATE_SYSTEM_PRESSED, 0);
+}
+
+TEST_F(DrawnControls, WriteATextInTheMiddleOfItsBox) {
+  const HWND text = at(50, 70);
+  RECT box = {};
+  RECT line = {};
+  GetWindowRect(text, &box);
+  GetClientRect(text, &line);
+  MapWindowPoints(text, nullptr, reinterpret_cast<POINT*>(&line), 2);
+  const LONG above = line.top - box.top;
+  const LONG below = box.bottom - line.bottom;
+  EXPECT_GT(above, GetSystemMetrics(SM_CYEDGE)) << "the box is higher than its line";
+  EXPECT_LE(below - above, 1);
+  EXPECT_GE(below, above);
+  EXPECT_EQ(SendMessageW(text, WM_NCHITTEST, 0, MAKELPARAM(line.left, box.top + 3)), HTCLIENT) << "beside the line";
+}
+
+TEST_F(DrawnControls, KeepEvenDistancesWhereAPixelIsNoWholeNumberOfTwips) {
+  const Scale fine(144, 144);
+  BackBuffer buffer;
+  SystemCanvas canvas(buffer, {10, 200}, fine, 0, false);
+  canvas.clear();
+  std::vector<int> drawn;
+  for (const int twips : {535, 805, 1075, 1345}) canvas.line({0}, {twips}, {50}, {twips}, Rgb{255});
+  for (int y = 0; y < 200; ++y) {
+    if (GetPixel(buffer.context(), 0, y) == 255) drawn.push_back(y);
+  }
+  EXPECT_EQ(drawn, (std::vector<int>{54, 81, 108, 135}));
 }
 
 TEST_F(DrawnControls, HearEnterInATextBox) {
