@@ -114,9 +114,13 @@ TEST_F(AnimationDrawing, TheEdgeTellsHotFromPressedFromNeither) {
 
 TEST_F(AnimationDrawing, TheFocusIsShownOnlyWhileTheButtonHasTheKeyboard) {
   open();
+  button().loseFocus();
+  take();
   button().setFocus();
+  EXPECT_THAT(take(), Contains("picPlayPause: repaint"));
   EXPECT_EQ(drawn(button()).focusBoxes, 1);
   button().loseFocus();
+  EXPECT_THAT(take(), Contains("picPlayPause: repaint"));
   EXPECT_EQ(drawn(button()).focusBoxes, 0);
 }
 

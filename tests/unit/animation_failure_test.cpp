@@ -133,7 +133,10 @@ TEST_F(AnimationFailure, AStateThatIsNoTruthIsReportedByTheToolbar) {
 TEST_F(AnimationFailure, AModelThatHidesTheToolbarInsideACallIsNotShownThePopup) {
   for (const char* member : {"AnimationState", "AnimationCurrentFrame"}) {
     model->hooks[member] = [this] { control->ToolbarHide(); };
+    take();
     popup().ShowSelf(1, 1);
+    EXPECT_EQ(takeModelCalls().back(), member == std::string("AnimationState") ? "model: IsToolbarShowing = False"
+                                                                               : "model: AnimationState = False");
     EXPECT_FALSE(popup().isVisible()) << member;
     EXPECT_FALSE(library.state.gFormShown[animationIndex]) << member;
     model->hooks.clear();

@@ -92,30 +92,50 @@ class TakenLamp : public WindowFactory {
   explicit TakenLamp(WindowFactory& windows) : windows(windows) {}
   std::shared_ptr<Window> create(const FormLayout& layout) override {
     std::shared_ptr<Window> window = windows.create(layout);
-    if (std::string_view(layout.name) == "frmLighting") {
+    if (isTaken && std::string_view(layout.name) == "frmLighting") {
       window->buttonBar("barLamp", 0).openLayout("Enabled");
       window->buttonBar("barLamp", 0).addButton("LightUL", "6, lamp1.bmp, 0,0");
     }
     return window;
   }
 
+  bool isTaken = true;
+
  private:
   WindowFactory& windows;
 };
 
-TEST(LightingThatCannotBeBuilt, IsReportedOnceAndNeverShown) {
+class LightingThatCannotBeBuilt : public testing::Test {
+ protected:
+  void SetUp() override {
+    library.state.controls = 1;
+    platform.boxes.answers = {PromptAnswer::ok};
+  }
+
   headless::HeadlessPlatform platform;
-  TakenLamp windows(platform.windows);
-  Library library({platform.screen, windows, platform.boxes, platform.registry, platform.settings, platform.shell,
-                   platform.files, platform.search});
-  library.state.controls = 1;
-  platform.boxes.answers = {PromptAnswer::ok};
+  TakenLamp windows{platform.windows};
+  Library library{{platform.screen, windows, platform.boxes, platform.registry, platform.settings, platform.shell,
+                   platform.files, platform.search}};
+};
+
+TEST_F(LightingThatCannotBeBuilt, IsReportedOnceAndNeverShown) {
   library.lighting.load();
   EXPECT_EQ(platform.transcript.take().back(), "box [Zephra Toolbar] Unable to load Light menu");
   EXPECT_TRUE(library.state.gFormLoaded[lightingIndex]);
   library.lighting.ShowSelf(1, 1);
   EXPECT_THAT(platform.transcript.take(), IsEmpty());
   EXPECT_FALSE(library.state.gFormShown[lightingIndex]);
+}
+
+TEST_F(LightingThatCannotBeBuilt, IsNotShownThoughItOnceCouldBe) {
+  windows.isTaken = false;
+  library.lighting.load();
+  library.lighting.unload();
+  windows.isTaken = true;
+  library.lighting.load();
+  platform.transcript.take();
+  library.lighting.ShowSelf(1, 1);
+  EXPECT_THAT(platform.transcript.take(), IsEmpty());
 }
 
 }  // namespace

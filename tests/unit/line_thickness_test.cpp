@@ -191,6 +191,7 @@ TEST_F(LineThickness, AModelThatHidesTheToolbarInsideACallClosesItForGood) {
   model->hooks["LineThicknessScale"] = [this] { control->ToolbarHide(); };
   menu().ShowSelf(1, 1);
   EXPECT_FALSE(menu().isVisible());
+  EXPECT_NE(platform.windows.focus.holder, &panel());
   EXPECT_FALSE(library.state.gFormShown[lineThicknessIndex]);
   const Lines lines = take();
   EXPECT_EQ(std::count(lines.begin(), lines.end(), "frmLineThicknessMenu: hide"), 1);

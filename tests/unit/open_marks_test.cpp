@@ -139,11 +139,31 @@ TEST_F(OpenMarks, FallWithTheMovementButtonsAndAClickOnTheForm) {
 }
 
 TEST_F(OpenMarks, OfTheStyleButtonsFallOnAnyWorldButton) {
-  bar("barLS", 2).press("SurfaceColorFill");
-  bar("barWorld").buttonPress("unknown");
-  take();
+  constexpr const char* keys[] = {"LineThickness", "LineColorFill", "SurfaceColorFill", "Background"};
+  for (int i = 0; i < 4; ++i) {
+    bar("barLS", i).press(keys[i]);
+    bar("barWorld").buttonPress("unknown");
+    take();
+    bar("barLS", i).press(keys[i]);
+    EXPECT_EQ(take().front(), "barLS(" + std::to_string(i) + "): " + keys[i] + " state 2");
+  }
+}
+
+TEST_F(OpenMarks, OfTheLightFallsOnAStyleButton) {
+  bar("barWorld").press("Lighting");
   fill().press("SurfaceColorFill");
-  EXPECT_EQ(take().front(), "barLS(2): SurfaceColorFill state 2");
+  take();
+  bar("barWorld").press("Lighting");
+  EXPECT_EQ(take().front(), "barWorld(0): Lighting state 2");
+}
+
+TEST_F(OpenMarks, OfTheLightFallsWhenItsPopupClosesByItself) {
+  pressWithMouse(bar("barWorld"), "Lighting");
+  form("frmLighting").userCloses();
+  pressWithMouse(bar("barWorld"), "Lighting");
+  EXPECT_TRUE(library.lighting.isVisible());
+  pressWithMouse(bar("barWorld"), "Lighting");
+  EXPECT_FALSE(library.lighting.isVisible());
 }
 
 TEST_F(OpenMarks, OfTheLightStaysWhenHelpIsAsked) {

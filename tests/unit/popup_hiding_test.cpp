@@ -99,14 +99,26 @@ TEST_P(PopupLife, ClosesOnceAndReleasesItsButton) {
   EXPECT_EQ(take(), expected);
 }
 
+TEST_P(PopupLife, CountsOnceAsClosed) {
+  createAndInit();
+  for (int i = 0; i < 32767; ++i) library.toolbar.KillChild();
+  popup().ShowSelf(1, 1);
+  popup().HideSelf();  // the last one that can be counted
+  popup().HideSelf();
+  popup().ShowSelf(1, 1);
+  EXPECT_THROW(popup().HideSelf(), Error);
+}
+
 TEST_P(PopupLife, ThatCannotBeLoadedStaysQuietAndUnmarked) {
   createAndInit();
   popup().unload();
   platform.windows.creationFailures[GetParam().name] = error::outOfMemory;
+  take();
   if (GetParam().index == animationIndex) {
     EXPECT_THROW(popup().ShowSelf(1, 1), Error);  // the toolbar reports it
   } else {
     popup().ShowSelf(1, 1);
+    EXPECT_THAT(take(), IsEmpty());
   }
   EXPECT_THAT(takeBoxes(), IsEmpty());
   EXPECT_FALSE(library.state.gFormShown[GetParam().index]);

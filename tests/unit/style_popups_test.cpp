@@ -68,6 +68,18 @@ TEST_P(StylePopups, AMousePressOnTheButtonOfTheOpenPopupOnlyClosesIt) {
   }
 }
 
+TEST_P(StylePopups, OnlyItsClosingIsCounted) {
+  for (int i = 0; i < 32767; ++i) library.toolbar.KillChild();
+  for (const bool fits : {true, false}) {
+    owner().press(GetParam().key);
+    ASSERT_TRUE(popup().isVisible());
+    answerBoxes(fits ? 0 : 1);
+    take();
+    owner().press(GetParam().key);
+    EXPECT_EQ(takeBoxes(), fits ? Lines{} : Lines{errorBox});
+  }
+}
+
 TEST_P(StylePopups, APopupThatCannotShowLeavesTheButtonUp) {
   popup().unload();
   platform.windows.creationFailures[GetParam().form] = error::outOfMemory;
@@ -117,6 +129,24 @@ TEST_F(StylePress, OfAnimationShowsItsPopupAgainAndAgain) {
   bar("barWorld", 1).press("Animation");
   bar("barWorld", 1).press("Animation");
   EXPECT_TRUE(library.animation.isVisible());
+}
+
+TEST_F(StylePress, OfAnimationIsNotCounted) {
+  for (int i = 0; i < 32767; ++i) library.toolbar.KillChild();
+  bar("barWorld").buttonPress("Animation");
+  library.animation.HideSelf();
+  bar("barWorld").buttonPress("Animation");
+  EXPECT_THROW(library.animation.HideSelf(), Error);
+}
+
+TEST_F(StylePress, OfLightingMakesRoomForOneMoreClosing) {
+  for (int i = 0; i < 32768; ++i) library.toolbar.KillChild();
+  for (int round = 0; round < 3; ++round) {
+    bar("barWorld").press("Lighting");
+    bar("barWorld").press("Lighting");
+    EXPECT_FALSE(library.lighting.isVisible());
+  }
+  EXPECT_THAT(takeBoxes(), IsEmpty());
 }
 
 TEST_F(StylePress, OfLightingAfter32767OpeningsIsAnErrorAndOpensNothing) {
