@@ -54,10 +54,11 @@ void BoxWatcher::answerBoxes() {
   std::set<HWND> found;
   EnumWindows(collectBox, reinterpret_cast<LPARAM>(&found));
   for (HWND box : found) {
-    const std::string text = textOf(box) + ": " + textOf(GetDlgItem(box, textControl));
+    {  // before the answer, after which the program goes on
+      const std::lock_guard lock(mutex);
+      boxes.push_back(textOf(box) + ": " + textOf(GetDlgItem(box, textControl)));
+    }
     SendMessageW(box, WM_COMMAND, static_cast<WPARAM>(answer), 0);
-    const std::lock_guard lock(mutex);
-    boxes.push_back(text);
   }
 }
 
