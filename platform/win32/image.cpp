@@ -52,15 +52,8 @@ void SystemImage::paintOn(HDC target) {
 
 LRESULT SystemImage::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   const POINT point = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+  if (drawOnRequest(window(), message, wParam, [this](HDC target) { paintOn(target); })) return 0;
   switch (message) {
-    case WM_PAINT: {
-      const PaintScope painting(window());
-      paintOn(painting.dc());
-      return 0;
-    }
-    case WM_PRINTCLIENT:
-      paintOn(reinterpret_cast<HDC>(wParam));
-      return 0;
     case WM_SIZE:
       InvalidateRect(window(), nullptr, TRUE);
       break;

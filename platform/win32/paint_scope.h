@@ -19,4 +19,16 @@ class PaintScope {
   PAINTSTRUCT structure = {};
 };
 
+// Answers the two messages that ask for a picture; draw(HDC) makes it.
+template <class Draw>
+bool drawOnRequest(HWND window, UINT message, WPARAM wParam, Draw draw) {
+  if (message == WM_PAINT) {
+    const PaintScope painting(window);
+    draw(painting.dc());
+    return true;
+  }
+  if (message == WM_PRINTCLIENT) draw(reinterpret_cast<HDC>(wParam));
+  return message == WM_PRINTCLIENT;
+}
+
 }  // namespace nerida

@@ -48,15 +48,8 @@ LRESULT SystemPictureBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) 
     relayTooltip(message, wParam, lParam);
     return onMouse(message, lParam) ? 0 : passOn(message, wParam, lParam);
   }
+  if (drawOnRequest(window(), message, wParam, [this](HDC target) { draw(target); })) return 0;
   switch (message) {
-    case WM_PAINT: {
-      const PaintScope painting(window());
-      draw(painting.dc());
-      return 0;
-    }
-    case WM_PRINTCLIENT:
-      draw(reinterpret_cast<HDC>(wParam));
-      return 0;
     case WM_ERASEBKGND:
       return TRUE;
     case WM_SETFOCUS:

@@ -44,15 +44,8 @@ void SystemPreview::paintOn(HDC target) const {
 }
 
 LRESULT SystemPreview::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (drawOnRequest(window(), message, wParam, [this](HDC target) { paintOn(target); })) return 0;
   switch (message) {
-    case WM_PAINT: {
-      const PaintScope painting(window());
-      paintOn(painting.dc());
-      return 0;
-    }
-    case WM_PRINTCLIENT:
-      paintOn(reinterpret_cast<HDC>(wParam));
-      return 0;
     case WM_ERASEBKGND:
       return TRUE;
     case WM_SIZE:
