@@ -93,9 +93,7 @@ LONG write(HKEY base, const Entry& entry) {
   LONG status = RegCreateKeyExW(base, (classes + entry.key).c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_SET_VALUE,
                                 nullptr, key.put(), nullptr);
   if (status != ERROR_SUCCESS || (entry.text.empty() && entry.name.empty())) return status;
-  const std::size_t bytes = (entry.text.size() + 1) * sizeof(wchar_t);
-  return RegSetValueExW(key.get(), entry.name.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(entry.text.c_str()),
-                        static_cast<DWORD>(bytes));
+  return key.setText(entry.name, entry.text);
 }
 
 struct Contents {

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <string>
 #include <utility>
 
 namespace nerida {
@@ -21,6 +22,13 @@ class RegistryHandle {
 
   HKEY get() const { return key; }
   HKEY* put() { return &key; }
+
+  // Sets one value of the key, the key's own where the name is empty. Answers the system's status.
+  LSTATUS setText(const std::wstring& name, const std::wstring& text) const {
+    const std::size_t bytes = (text.size() + 1) * sizeof(wchar_t);
+    return RegSetValueExW(key, name.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
+                          static_cast<DWORD>(bytes));
+  }
 
  private:
   HKEY key;

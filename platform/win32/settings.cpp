@@ -13,11 +13,6 @@ std::wstring sectionPath(const std::string& section) {
   return L"Software\\VB and VBA Program Settings\\Zephra\\" + wide(section);
 }
 
-DWORD bytesOf(std::size_t characters) {
-  const std::size_t bytes = characters * sizeof(wchar_t);
-  return static_cast<DWORD>(bytes);
-}
-
 constexpr DWORD textTypes = RRF_RT_REG_SZ | RRF_RT_REG_EXPAND_SZ | RRF_NOEXPAND;
 
 }  // namespace
@@ -29,7 +24,8 @@ std::string SystemSettings::read(const std::string& section, const std::string& 
   LONG status = RegGetValueW(HKEY_CURRENT_USER, path.c_str(), name.c_str(), textTypes, nullptr, nullptr, &size);
   if (status != ERROR_SUCCESS) return fallback;
   std::wstring text(size / sizeof(wchar_t) + 1, L'\0');
-  size = bytesOf(text.size());
+  const std::size_t room = text.size() * sizeof(wchar_t);
+  size = static_cast<DWORD>(room);
   status = RegGetValueW(HKEY_CURRENT_USER, path.c_str(), name.c_str(), textTypes, nullptr, text.data(), &size);
   return status == ERROR_SUCCESS ? utf8(text.substr(0, text.find(L'\0'))) : fallback;
 }
@@ -39,9 +35,7 @@ void SystemSettings::write(const std::string& section, const std::string& key, c
   LONG status = RegCreateKeyExW(HKEY_CURRENT_USER, sectionPath(section).c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
                                 KEY_SET_VALUE, nullptr, handle.put(), nullptr);
   if (status != ERROR_SUCCESS) throw Error(error::invalidCall);
-  const std::wstring data = wide(text);
-  status = RegSetValueExW(handle.get(), wide(key).c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(data.c_str()),
-                          bytesOf(data.size() + 1));
+  status = handle.setText(wide(key), wide(text));
   if (status != ERROR_SUCCESS) throw Error(error::invalidCall);
 }
 

@@ -6,6 +6,8 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "platform/win32/registry_handle.h"
+
 namespace nerida {
 namespace {
 
@@ -14,11 +16,10 @@ constexpr const wchar_t* version = L"Software\\Tarnwell\\Zephra\\1.0";
 
 // The control reads the 32-bit view, whatever its own bitness is.
 void write(const wchar_t* key, const wchar_t* name, const std::wstring& text) {
-  HKEY handle = nullptr;
-  RegCreateKeyExW(HKEY_LOCAL_MACHINE, key, 0, nullptr, 0, KEY_SET_VALUE | KEY_WOW64_32KEY, nullptr, &handle, nullptr);
-  RegSetValueExW(handle, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
-                 static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
-  RegCloseKey(handle);
+  RegistryHandle handle;
+  RegCreateKeyExW(HKEY_LOCAL_MACHINE, key, 0, nullptr, 0, KEY_SET_VALUE | KEY_WOW64_32KEY, nullptr, handle.put(),
+                  nullptr);
+  handle.setText(name, text);
 }
 
 // The search component that every start of the control asks for categories.

@@ -6,6 +6,7 @@
 #include "platform/win32/desktop.h"
 #include "platform/win32/prompts.h"
 #include "platform/win32/registry.h"
+#include "platform/win32/registry_handle.h"
 #include "platform/win32/settings.h"
 #include "platform/win32/shell.h"
 #include "platform/win32/text.h"
@@ -49,21 +50,18 @@ class MachineRegistry : public testing::Test {
 
   MachineRegistry() {
     remove();
-    RegCreateKeyExW(HKEY_LOCAL_MACHINE, path, 0, nullptr, 0, KEY_SET_VALUE | KEY_WOW64_32KEY, nullptr, &written,
+    RegCreateKeyExW(HKEY_LOCAL_MACHINE, path, 0, nullptr, 0, KEY_SET_VALUE | KEY_WOW64_32KEY, nullptr, written.put(),
                     nullptr);
   }
   ~MachineRegistry() override {
-    RegCloseKey(written);
+    written = RegistryHandle();
     remove();
   }
   static void remove() { RegDeleteKeyExW(HKEY_LOCAL_MACHINE, path, KEY_WOW64_32KEY, 0); }
 
-  void writeText(const wchar_t* name, const std::wstring& text) {
-    RegSetValueExW(written, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
-                   static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
-  }
+  void writeText(const wchar_t* name, const std::wstring& text) { written.setText(name, text); }
   void writeBytes(const wchar_t* name, const std::string& bytes) {
-    RegSetValueExW(written, name, 0, REG_BINARY, reinterpret_cast<const BYTE*>(bytes.data()),
+    RegSetValueExW(written.get(), name, 0, REG_BINARY, reinterpret_cast<const BYTE*>(bytes.data()),
                    static_cast<DWORD>(bytes.size()));
   }
 
@@ -75,7 +73,7 @@ class MachineRegistry : public testing::Test {
 
   SystemRegistry registry;
   long status = -1;
-  HKEY written = nullptr;
+  RegistryHandle written;
 };
 
 TEST_F(MachineRegistry, AMissingKeyGivesTheSystemsStatus) {

@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "host/search/model_database.h"
+#include "platform/win32/registry_handle.h"
 
 namespace nerida::host {
 namespace {
@@ -14,24 +15,15 @@ namespace fs = std::filesystem;
 
 constexpr const wchar_t* installationKey = L"Software\\Tarnwell\\Zephra";
 
-class InstallationKey {
- public:
-  InstallationKey() {
-    RegCreateKeyExW(HKEY_LOCAL_MACHINE, installationKey, 0, nullptr, 0, KEY_READ | KEY_WRITE | KEY_WOW64_32KEY, nullptr,
-                    &key, nullptr);
-  }
-  ~InstallationKey() { RegCloseKey(key); }
-  InstallationKey(const InstallationKey&) = delete;
-  InstallationKey& operator=(const InstallationKey&) = delete;
-
-  HKEY get() const { return key; }
-
- private:
-  HKEY key = nullptr;
-};
+RegistryHandle openInstallation() {
+  RegistryHandle key;
+  RegCreateKeyExW(HKEY_LOCAL_MACHINE, installationKey, 0, nullptr, 0, KEY_READ | KEY_WRITE | KEY_WOW64_32KEY, nullptr,
+                  key.put(), nullptr);
+  return key;
+}
 
 std::vector<std::pair<std::wstring, std::wstring>> dictionaryValues() {
-  const InstallationKey key;
+  const RegistryHandle key = openInstallation();
   std::vector<std::pair<std::wstring, std::wstring>> values;
   for (DWORD index = 0;; ++index) {
     wchar_t name[256];
@@ -65,13 +57,12 @@ fs::path componentFile() {
 }
 
 void writeInstallation(const std::wstring& name, const std::wstring& text) {
-  const InstallationKey key;
+  const RegistryHandle key = openInstallation();
   if (text.empty()) {
     RegDeleteValueW(key.get(), name.c_str());
     return;
   }
-  RegSetValueExW(key.get(), name.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
-                 static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
+  key.setText(name, text);
 }
 
 const std::vector<search::ModelCard>& usualCards() {
