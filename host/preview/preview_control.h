@@ -101,7 +101,7 @@ class PreviewControl final : public IDispatch,
   void previewChanged() override;
 
  private:
-  ~PreviewControl() = default;
+  ~PreviewControl() override = default;
 
   template <typename Result>
   static HRESULT nothing(Result* result) {

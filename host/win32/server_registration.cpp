@@ -1,5 +1,6 @@
 #include <olectl.h>
 
+#include <ranges>
 #include <vector>
 
 #include "host/win32/server.h"
@@ -67,8 +68,9 @@ std::vector<Entry> entriesOf(const ServerInterface& of) {
 std::wstring pathOf(const Entry& entry) { return L"Software\\Classes\\" + entry.key; }
 
 LONG write(HKEY root, const Entry& entry) {
-  const auto bytes = static_cast<DWORD>((entry.text.size() + 1) * sizeof(wchar_t));
-  return RegSetKeyValueW(root, pathOf(entry).c_str(), entry.name.c_str(), REG_SZ, entry.text.c_str(), bytes);
+  const std::size_t bytes = (entry.text.size() + 1) * sizeof(wchar_t);
+  return RegSetKeyValueW(root, pathOf(entry).c_str(), entry.name.c_str(), REG_SZ, entry.text.c_str(),
+                         static_cast<DWORD>(bytes));
 }
 
 // Takes a value away, and its key when nothing else is left in it.
@@ -86,7 +88,7 @@ void remove(HKEY root, const Entry& entry) {
 }
 
 void remove(HKEY root, const std::vector<Entry>& entries) {
-  for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) remove(root, *entry);
+  for (const Entry& entry : std::views::reverse(entries)) remove(root, entry);
 }
 
 bool isRegistered(HKEY root, const ServerClass& of, REGSAM view) {

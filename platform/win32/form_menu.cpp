@@ -10,7 +10,7 @@ namespace {
 
 // A caption that the program set is shown as it is; the system would take marks and columns from it.
 std::wstring shownCaption(const MenuEntry& entry) {
-  const std::wstring caption = wide(entry.caption);
+  std::wstring caption = wide(entry.caption);
   if (entry.isDesigned) return caption;
   std::wstring shown;
   for (const wchar_t character : caption) {

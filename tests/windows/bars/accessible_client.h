@@ -56,7 +56,7 @@ class Accessible {
 
  private:
   static std::string take(BSTR text) {
-    const std::string result = text == nullptr ? "(none)" : utf8({text, SysStringLen(text)});
+    std::string result = text == nullptr ? "(none)" : utf8({text, SysStringLen(text)});
     SysFreeString(text);
     return result;
   }

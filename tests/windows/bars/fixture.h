@@ -58,8 +58,8 @@ class ToolbarOnScreen : public testing::Test {
   HWND windowOf(const Control& control) const {
     const double pixel = screenDpi() / 1440.0;
     const Bounds at = control.bounds();
-    const POINT middle = {static_cast<LONG>((at.left.value + at.width.value / 2) * pixel),
-                          static_cast<LONG>((at.top.value + at.height.value / 2) * pixel)};
+    const POINT middle = {static_cast<LONG>((at.left.value + at.width.value / 2.0) * pixel),
+                          static_cast<LONG>((at.top.value + at.height.value / 2.0) * pixel)};
     return ChildWindowFromPointEx(window(), middle, CWP_SKIPINVISIBLE);
   }
 

@@ -31,7 +31,7 @@ BOOL CALLBACK collectBox(HWND window, LPARAM found) {
 
 }  // namespace
 
-BoxWatcher::BoxWatcher(int answer) : answer(answer), thread([this](std::stop_token stop) { watch(stop); }) {}
+BoxWatcher::BoxWatcher(int answer) : answer(answer), thread([this](const std::stop_token& stop) { watch(stop); }) {}
 
 BoxWatcher::~BoxWatcher() {
   thread.request_stop();
@@ -43,7 +43,7 @@ std::vector<std::string> BoxWatcher::seen() {
   return boxes;
 }
 
-void BoxWatcher::watch(std::stop_token stop) {
+void BoxWatcher::watch(const std::stop_token& stop) {
   while (!stop.stop_requested()) {
     answerBoxes();
     Sleep(20);

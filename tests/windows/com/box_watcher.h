@@ -20,7 +20,7 @@ class BoxWatcher {
   std::vector<std::string> seen();
 
  private:
-  void watch(std::stop_token stop);
+  void watch(const std::stop_token& stop);
   void answerBoxes();
 
   int answer;

@@ -17,9 +17,9 @@ Model::Model() {
   for (const wchar_t* name : {L"GetLookStyleList", L"RefreshDisplay", L"StopTimer", L"StartTimer"}) {
     values[name];
   }
+  DISPID id = 0;
   for (const auto& [name, value] : values) {
-    const auto id = static_cast<DISPID>(ids.size() + 1);
-    ids[name] = id;
+    ids[name] = ++id;
     names[id] = name;
   }
 }

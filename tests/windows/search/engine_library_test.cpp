@@ -37,7 +37,7 @@ class EngineLibrary : public testing::Test {
     std::string name(static_cast<std::size_t>(size) + 1, '#');
     result.status = ENTRY(GetNextResult)(name.data(), size, &result.number, &result.flags, &result.closeness);
     EXPECT_EQ(name.back(), '#') << "written past the end";
-    result.name = name.c_str();
+    result.name = name.substr(0, name.find('\0'));
     return result;
   }
 
