@@ -1,5 +1,6 @@
 // A playback bar whose model fails or takes the toolbar down, or that cannot be built.
 #include "tests/unit/animation_desk.h"
+#include "tests/unit/spoilt_windows.h"
 
 namespace nerida {
 namespace {
@@ -154,26 +155,9 @@ TEST_F(AnimationFailure, AModelThatDisposesOfTheToolbarInsideAClickEndsItQuietly
   EXPECT_THAT(takeBoxes(), IsEmpty());
 }
 
-// Hands out a playback window whose first button is already there, so that its bars cannot be built.
-class TakenFrame : public WindowFactory {
- public:
-  explicit TakenFrame(WindowFactory& windows) : windows(windows) {}
-  std::shared_ptr<Window> create(const FormLayout& layout) override {
-    std::shared_ptr<Window> window = windows.create(layout);
-    if (std::string_view(layout.name) == "frmAnimation") {
-      window->buttonBar("barForward").openLayout("Enabled");
-      window->buttonBar("barForward").addButton("NextFrame", "5, x.bmp, 0,0");
-    }
-    return window;
-  }
-
- private:
-  WindowFactory& windows;
-};
-
 TEST(AnimationThatCannotBeBuilt, IsReportedAndStaysLoaded) {
   headless::HeadlessPlatform platform;
-  TakenFrame windows(platform.windows);
+  SpoiltWindows windows(platform.windows, {"frmAnimation", "barForward", "Enabled", "NextFrame", "5, x.bmp, 0,0"});
   Library library({platform.screen, windows, platform.boxes, platform.registry, platform.settings, platform.shell,
                    platform.files, platform.search});
   library.state.controls = 1;

@@ -1,5 +1,6 @@
 // What creating a control does to the library: its steps in order, its failures, a second control in the same process.
 #include "tests/unit/desk.h"
+#include "tests/unit/spoilt_windows.h"
 
 namespace nerida {
 namespace {
@@ -192,26 +193,9 @@ TEST_F(ControlStart, ASecondControlMarksLoadedFormsAsLoadedAgain) {
   EXPECT_THAT(library.state.gFormShown, testing::Each(false));
 }
 
-// A window system whose toolbar window comes with a button that the toolbar is going to add itself.
-class SpoiltWindows : public WindowFactory {
- public:
-  explicit SpoiltWindows(WindowFactory& windows) : windows(windows) {}
-  std::shared_ptr<Window> create(const FormLayout& layout) override {
-    const std::shared_ptr<Window> window = windows.create(layout);
-    if (std::string_view(layout.name) == "frmToolbar") {
-      window->buttonBar("barWorld", 0).openLayout("Default");
-      window->buttonBar("barWorld", 0).addButton("Lighting", "6,Lighting.bmp,0,0");
-    }
-    return window;
-  }
-
- private:
-  WindowFactory& windows;
-};
-
 TEST(ControlStartWithASpoiltToolbar, ReportsItAndLeavesTheFormUnmarkedAsFarAsItWasBuilt) {
   headless::HeadlessPlatform platform;
-  SpoiltWindows windows(platform.windows);
+  SpoiltWindows windows(platform.windows, {"frmToolbar", "barWorld", "Default", "Lighting", "6,Lighting.bmp,0,0"});
   platform.registry.keys = {{"Software", {}}};
   Library library({platform.screen, windows, platform.boxes, platform.registry, platform.settings, platform.shell,
                    platform.files, platform.search});

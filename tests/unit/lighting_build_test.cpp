@@ -1,5 +1,6 @@
 // How the picker of the light is built, and what happens when it cannot be.
 #include "tests/unit/lighting_desk.h"
+#include "tests/unit/spoilt_windows.h"
 
 namespace nerida {
 namespace {
@@ -17,6 +18,10 @@ TEST_F(LightingBuild, BuildsLampsThenCentreThenSwitch) {
     return Lines{bar + ": enabled", bar + ": folder C:\\Zephra\\System", bar + ": tooltips on",
                  bar + ": file Toolbar.res"};
   };
+  const auto set = [](const std::string& bar, const char* name, const char* const(&lamps)[2], const char* tail) {
+    return Lines{bar + ": open " + name, bar + ": add " + lamps[0] + tail, bar + ": add " + lamps[1] + tail,
+                 bar + ": lay out"};
+  };
   Lines expected = {"frmLighting: load"};
   const auto append = [&](const Lines& lines) { expected.insert(expected.end(), lines.begin(), lines.end()); };
   const char* pairs[4][2] = {
@@ -24,11 +29,8 @@ TEST_F(LightingBuild, BuildsLampsThenCentreThenSwitch) {
   for (int i = 0; i < 4; ++i) {
     const std::string bar = "barLamp(" + std::to_string(i) + ")";
     append(settings(bar));
-    for (const std::string set : {"Enabled", "Disabled"}) {
-      const std::string tail = set == "Disabled" ? "D" : "";
-      append({bar + ": open " + set, bar + ": add " + pairs[i][0] + tail, bar + ": add " + pairs[i][1] + tail,
-              bar + ": lay out"});
-    }
+    append(set(bar, "Enabled", pairs[i], ""));
+    append(set(bar, "Disabled", pairs[i], "D"));
   }
   append(settings("barLamp(4)"));
   const char* cubes[][2] = {{"LightUL", "UL"}, {"LightT", "T"},          {"LightUR", "UR"}, {"LightR", "R"},
@@ -86,25 +88,6 @@ TEST_F(LightingBuild, ItsButtonsHaveTheirPictures) {
   }
 }
 
-// Hands out a lighting window whose first lamp is already taken, so that it cannot be built.
-class TakenLamp : public WindowFactory {
- public:
-  explicit TakenLamp(WindowFactory& windows) : windows(windows) {}
-  std::shared_ptr<Window> create(const FormLayout& layout) override {
-    std::shared_ptr<Window> window = windows.create(layout);
-    if (isTaken && std::string_view(layout.name) == "frmLighting") {
-      window->buttonBar("barLamp", 0).openLayout("Enabled");
-      window->buttonBar("barLamp", 0).addButton("LightUL", "6, lamp1.bmp, 0,0");
-    }
-    return window;
-  }
-
-  bool isTaken = true;
-
- private:
-  WindowFactory& windows;
-};
-
 class LightingThatCannotBeBuilt : public testing::Test {
  protected:
   void SetUp() override {
@@ -113,7 +96,7 @@ class LightingThatCannotBeBuilt : public testing::Test {
   }
 
   headless::HeadlessPlatform platform;
-  TakenLamp windows{platform.windows};
+  SpoiltWindows windows{platform.windows, {"frmLighting", "barLamp", "Enabled", "LightUL", "6, lamp1.bmp, 0,0"}};
   Library library{{platform.screen, windows, platform.boxes, platform.registry, platform.settings, platform.shell,
                    platform.files, platform.search}};
 };
@@ -128,10 +111,10 @@ TEST_F(LightingThatCannotBeBuilt, IsReportedOnceAndNeverShown) {
 }
 
 TEST_F(LightingThatCannotBeBuilt, IsNotShownThoughItOnceCouldBe) {
-  windows.isTaken = false;
+  windows.isSpoilt = false;
   library.lighting.load();
   library.lighting.unload();
-  windows.isTaken = true;
+  windows.isSpoilt = true;
   library.lighting.load();
   platform.transcript.take();
   library.lighting.ShowSelf(1, 1);

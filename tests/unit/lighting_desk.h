@@ -16,7 +16,7 @@ class LightingTest : public DeskTest {
     createInitAndShow();
   }
 
-  void setDirection(Value x, Value y, Value z, Value status = std::int32_t{0}) {
+  void setDirection(const Value& x, const Value& y, const Value& z, const Value& status = std::int32_t{0}) {
     model->functions["GetLightDirection"] = [=](std::span<Argument> arguments) {
       *arguments[0].variable = x;
       *arguments[1].variable = y;

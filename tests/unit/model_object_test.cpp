@@ -2,6 +2,7 @@
 #include "core/model_object.h"
 
 #include "tests/unit/desk.h"
+#include "tests/unit/error_of.h"
 
 namespace nerida {
 namespace {
@@ -12,15 +13,6 @@ using testing::IsEmpty;
 class ModelObjectTest : public DeskTest {
  protected:
   ModelObjectTest() { library.state.gModelObject = model; }
-
-  std::int32_t errorOf(const std::function<void()>& action) {
-    try {
-      action();
-    } catch (const Error& failure) {
-      return failure.number;
-    }
-    return 0;
-  }
 
   ModelObject wrapper{library.state};
 };

@@ -4,21 +4,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/error.h"
+#include "tests/unit/error_of.h"
 
 namespace nerida {
 namespace {
 
 using testing::ElementsAre;
-
-std::int32_t errorOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const Error& failure) {
-    return failure.number;
-  }
-  return 0;
-}
 
 struct SortCase {
   std::vector<std::string> given, sorted;

@@ -4,22 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <functional>
 
 #include "platform/automation.h"
-#include "platform/error.h"
+#include "tests/unit/error_of.h"
 
 namespace nerida {
 namespace {
-
-std::int32_t errorOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const Error& failure) {
-    return failure.number;
-  }
-  return 0;
-}
 
 const Value someObject{ObjectRef()};
 const Value someArray{std::make_shared<const Array>()};
