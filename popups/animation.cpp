@@ -159,6 +159,7 @@ void frmAnimation::ShowSelf(std::int16_t x, std::int16_t y) {
   modelPlays ? SetPlay() : SetPause();
   if (!isLoaded() || !toolbar.stillThere()) return;
   loadedWindow().showTopmostAt({x, y});
+  if (loadedWindow().showsFocus()) picPlayPause().setFocus();
   repaintPlayPause();
   closing = false;
   markShown(true);

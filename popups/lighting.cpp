@@ -57,6 +57,7 @@ void frmLighting::connectEvents() {
   pnlLight.mouseMove = [this](Twips, Twips) { Form_MouseMove(); };
   pnlLight.lostFocus = [this] { leave(); };
   pnlLight.keyDown = [this](Key key) { return key != Key::choose && enterLamps(); };
+  pnlLight.setTabStop(false);
   loadedWindow().mouseMoved = [this] { Form_MouseMove(); };
   loadedWindow().mouseLeft = [this] { Form_MouseMove(); };
   loadedWindow().closeRequested = [this] { handle(messages, [this] { HideSelf(); }); };
@@ -130,7 +131,9 @@ void frmLighting::ShowSelf(std::int16_t x, std::int16_t y) {
   if (!isVisible()) return;
   ignoringErrors([this] { showModelsLight(); });
   // The popup closes when its panel loses the focus, so the panel must have it.
-  if (isVisible()) loadedWindow().pictureBox("pnlLight").setFocus();
+  if (!isVisible()) return;
+  loadedWindow().pictureBox("pnlLight").setFocus();
+  if (loadedWindow().showsFocus()) enterLamps();
 }
 
 void frmLighting::showModelsLight() {
@@ -202,7 +205,7 @@ bool frmLighting::moveFocus(const Lamp& from, Key arrow) {
   return true;
 }
 
-// The arrow keys lead from the panel to the lamp of the current direction, or to the switch of a light that is off.
+// The keyboard begins at the lamp of the current direction, or at the switch of a light that is off.
 bool frmLighting::enterLamps() {
   if (lightIsOn) {
     preview(*current);

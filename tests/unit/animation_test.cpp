@@ -123,6 +123,18 @@ TEST_F(Animation, ClosesOnceBeforeItHasEverShownAndRemembersThat) {
   EXPECT_THAT(take(), IsEmpty());
 }
 
+TEST_F(Animation, OpenedByKeyboardStartsOnThePlayButton) {
+  open();
+  EXPECT_NE(platform.windows.focus.holder, &button()) << "nobody uses the keyboard";
+  popup().HideSelf();
+  platform.windows.focus.isShown = true;
+  for (const bool playing : {false, true}) {
+    open(playing);
+    EXPECT_EQ(platform.windows.focus.holder, &button());
+    popup().HideSelf();
+  }
+}
+
 TEST_F(Animation, EscapeClosesIt) {
   open();
   window().userCloses();

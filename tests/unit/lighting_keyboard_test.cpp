@@ -28,6 +28,35 @@ TEST_F(LightingKeyboard, ArrowKeysMoveOverTheLampsAsTheyStand) {
   EXPECT_THAT(takeModelCalls(), IsEmpty());
 }
 
+TEST_F(LightingKeyboard, OpenedByKeyboardStartsOnTheCurrentLamp) {
+  setDirection(1, 0, 0);
+  open();
+  EXPECT_EQ(platform.windows.focus.holder, &panel()) << "nobody uses the keyboard";
+  EXPECT_EQ(barLamp(1).focusedKey, "");
+  popup().HideSelf();
+  platform.windows.focus.isShown = true;
+  open();
+  EXPECT_EQ(platform.windows.focus.holder, &barLamp(1));
+  EXPECT_EQ(barLamp(1).focusedKey, "LightR");
+  EXPECT_TRUE(popup().isVisible());
+  EXPECT_FALSE(panel().isTabStop) << "nothing shows that the panel has the focus";
+}
+
+TEST_F(LightingKeyboard, OpenedByKeyboardOnAnUnlitModelStartsOnTheSwitch) {
+  platform.windows.focus.isShown = true;
+  openUnlit();
+  EXPECT_EQ(platform.windows.focus.holder, &barSwitch());
+  EXPECT_EQ(barSwitch().focusedKey, "SwitchOn");
+}
+
+TEST_F(LightingKeyboard, OpenedByKeyboardShowsTheFrontAtItsOwnPlace) {
+  platform.windows.focus.isShown = true;
+  open();
+  EXPECT_EQ(platform.windows.focus.holder, &centre());
+  EXPECT_EQ(centre().focusedKey, "M");
+  EXPECT_EQ(centre().shownLayout, "LightM");
+}
+
 TEST_F(LightingKeyboard, TheCentreShowsTheLampInFrontWhileItHasTheKeyboard) {
   setDirection(1, 0, 0);
   open();
