@@ -1,5 +1,7 @@
 // A model that acts from inside a call that a popup makes: in every member that popups use, every way of taking the
 // library down, and an error in each of them.
+#include <algorithm>
+
 #include "tests/unit/desk.h"
 
 namespace nerida {
@@ -144,6 +146,21 @@ void expectNoLatchedButton(Desk& desk) {
   EXPECT_EQ(desk.bar("barWorld").button("Lighting").state, buttonUp);
 }
 
+std::ptrdiff_t countOf(const Lines& lines, const std::string& form, const std::string& what) {
+  return std::ranges::count_if(lines, [&](const std::string& line) { return line.starts_with(form + ": " + what); });
+}
+
+// Each popup goes once for each time that it came. That the toolbar has gone is told once; who binds a model tells it
+// its toolbar's state, too.
+void expectEachClosedOnce(const Lines& happened) {
+  for (const char* form : {"frmLineThicknessMenu", "frmLineColors", "frmSurfaceColors", "frmBackgroundColors",
+                           "frmLighting", "frmAnimation"}) {
+    EXPECT_EQ(countOf(happened, form, "hide"), countOf(happened, form, "show topmost")) << form;
+  }
+  EXPECT_EQ(countOf(happened, "frmToolbar", "hide"), 1);
+  EXPECT_LE(countOf(happened, "model", "IsToolbarShowing = False"), 1 + countOf(happened, "model", "GetLookStyleList"));
+}
+
 // A toolbar that is up again opens each popup at the first press.
 void expectEveryButtonOpensAtOnce(Desk& desk) {
   for (const Action& scene : scenes) {
@@ -171,9 +188,11 @@ TEST_P(PopupCalls, SurviveBeingUndoneFromInsideAnyMember) {
         undone = true;
         undoing.run(desk);
       };
+      desk.take();
       GetParam().run(desk);
       if (!undone) continue;
       ++times;
+      expectEachClosedOnce(desk.take());
       desk.model->hooks.clear();
       EXPECT_EQ(visiblePopups(desk), 0);
       if (desk.platform.windows.find("frmToolbar")) expectNoLatchedButton(desk);
