@@ -18,9 +18,9 @@ def move(point):
     _run("xdotool", "mousemove", *point)
 
 
-def click(point, button=1, count=1):
-    """Moves there, as a hand does, and clicks."""
-    _run("xdotool", "mousemove", *point, "sleep", "0.04", "click", "--repeat", count, "--delay", 60, button)
+def click(point, button=1, count=1, delay=60):
+    """Moves there, as a hand does, and clicks, with so many milliseconds between clicks."""
+    _run("xdotool", "mousemove", *point, "sleep", "0.04", "click", "--repeat", count, "--delay", delay, button)
 
 
 def screen_size():
@@ -88,7 +88,7 @@ class OtherProgram:
 
     def __enter__(self):
         self.process = subprocess.Popen(["xmessage", "-geometry", "200x100+20+880", "-title", "Another program",
-                                         "Another program"], stdin=subprocess.DEVNULL)
+                                         "Another program"], stdin=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self.window = self._find()
         return self
 
@@ -102,6 +102,13 @@ class OtherProgram:
 
     def activate(self):
         _run("xdotool", "windowactivate", "--sync", self.window)
+
+    def click(self):
+        """On its text, which does nothing but bring it to the front."""
+        text = subprocess.run(["xdotool", "getwindowgeometry", "--shell", self.window], check=True, capture_output=True,
+                              text=True).stdout
+        place = dict(line.split("=") for line in text.split())
+        click((int(place["X"]) + 20, int(place["Y"]) + 12))
 
     def __exit__(self, *_):
         self.process.terminate()

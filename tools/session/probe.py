@@ -24,6 +24,7 @@ class Probe:
     def __init__(self):
         self.process = subprocess.Popen(["wine", str(self.PROGRAM)], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
                                         stderr=subprocess.DEVNULL, text=True, encoding="utf-8")
+        self.known = {}  # where elements were found
         # The first program makes the desktop; another one that starts meanwhile may find none to show its windows on.
         wait_for(lambda: self.windows(class_name="Shell_TrayWnd", visible=False), what="the desktop")
 
@@ -41,10 +42,8 @@ class Probe:
 
     def windows(self, title_start=None, class_name=None, visible=True):
         """Top-level windows by the start of their title and by class."""
-        return [w for w in self.ask("windows")
-                if (title_start is None or w["title"].startswith(title_start))
-                and (class_name is None or w["class"] == class_name)
-                and (not visible or w["visible"])]
+        return [w for w in self.ask("windows", int(visible), class_name or "")
+                if title_start is None or w["title"].startswith(title_start)]
 
     def window(self, title_start=None, class_name=None, timeout=10):
         """The one window of that title, waited for."""
@@ -64,15 +63,32 @@ class Probe:
         if status != 0:
             raise RuntimeError(f"pressing {element['name']!r} gave {status & 0xFFFFFFFF:#x}")
 
+    def focus(self, element):
+        """Gives it the keyboard."""
+        status = self.ask("focus", element["window"], element["child"])
+        if status != 0:
+            raise RuntimeError(f"focusing {element['name']!r} gave {status & 0xFFFFFFFF:#x}")
+
     def elements(self, window):
         return self.ask("elements", window["window"])
 
     def element(self, window, name, role=None):
         """The element of that accessible name inside a window."""
-        found = [e for e in self.elements(window) if e["name"] == name and (role is None or e["role"] == role)]
+        found = self._again(window, name, role) or self.ask("find", window["window"], role or 0, name)
         if not found:
             raise LookupError(f"no element {name!r} in {window['title']!r}")
-        return found[0]
+        self.known[window["window"], name, role] = found["window"], found["child"]
+        return found
+
+    def _again(self, window, name, role):
+        """Where it was the last time: most elements stay where they are, and searching takes long."""
+        place = self.known.get((window["window"], name, role))
+        found = place and self.ask("element", window["window"], *place)
+        return found if found and found["name"] == name and role in (None, found["role"]) else None
+
+    def names_in_state(self, window, state=0, role=PUSH_BUTTON):
+        """The names of the elements of that role that have one of the state's bits; of all of that role without."""
+        return self.ask("marked", window["window"], role, state)
 
 
 def wait_for(condition, timeout=10, what="a condition"):

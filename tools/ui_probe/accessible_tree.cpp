@@ -1,6 +1,7 @@
 #include <oleacc.h>
 
-#include <vector>
+#include <functional>
+#include <string>
 
 #include "tools/ui_probe/probe.h"
 
@@ -65,51 +66,105 @@ Json element(HWND window, IAccessible* object, long child) {
   return {{"window", reinterpret_cast<std::intptr_t>(window)},
           {"child", child},
           {"name", text(object, &IAccessible::get_accName, child)},
-          {"value", text(object, &IAccessible::get_accValue, child)},
           {"role", number(object, &IAccessible::get_accRole, child)},
           {"state", number(object, &IAccessible::get_accState, child)},
-          {"action", text(object, &IAccessible::get_accDefaultAction, child)},
           {"rect", place}};
 }
 
-// The other classes' elements are windows of their own.
-bool drawsItsElements(const std::wstring& className) {
-  return className.find(L"Bar") != std::wstring::npos || className.find(L"Picture") != std::wstring::npos;
+bool isInState(IAccessible* object, long child, long state) {
+  if (state == 0) return true;
+  const Json bits = number(object, &IAccessible::get_accState, child);
+  return bits.is_number() && (bits.get<long>() & state) != 0;
 }
 
-void addWindow(HWND window, Json& list) {
+// The other classes' elements are windows of their own.
+bool drawsItsElements(const std::string& className) {
+  return className.find("Bar") != std::string::npos || className.find("Picture") != std::string::npos;
+}
+
+Json describe(HWND window, IAccessible* object, long child) {
+  Json result = element(window, object, child);
+  if (child == CHILDID_SELF) result["class"] = classOf(window);
+  return result;
+}
+
+// Takes an element and tells whether to go on to the next one.
+using Visitor = std::function<bool(HWND window, IAccessible* object, long child)>;
+
+bool visitWindow(HWND window, const Visitor& visit) {
   Com<IAccessible> object;
-  if (!clientOf(window, object)) return;
-  list.push_back(element(window, object.pointer, CHILDID_SELF));
-  wchar_t className[64] = L"";
-  GetClassNameW(window, className, 64);
-  list.back()["class"] = utf8(className);
+  if (!clientOf(window, object)) return true;
+  if (!visit(window, object.pointer, CHILDID_SELF)) return false;
+  if (!drawsItsElements(classOf(window))) return true;
   long count = 0;
   object->get_accChildCount(&count);
-  if (!drawsItsElements(className)) return;
   for (long child = 1; child <= count && child <= 200; ++child) {
-    list.push_back(element(window, object.pointer, child));
+    if (!visit(window, object.pointer, child)) return false;
   }
+  return true;
 }
 
-BOOL CALLBACK addVisibleWindow(HWND child, LPARAM list) {
-  if (IsWindowVisible(child)) addWindow(child, *reinterpret_cast<Json*>(list));
-  return TRUE;
+BOOL CALLBACK visitVisibleWindow(HWND child, LPARAM visit) {
+  return !IsWindowVisible(child) || visitWindow(child, *reinterpret_cast<const Visitor*>(visit));
+}
+
+void visitElements(HWND window, const Visitor& visit) {
+  if (visitWindow(window, visit)) EnumChildWindows(window, visitVisibleWindow, reinterpret_cast<LPARAM>(&visit));
 }
 
 }  // namespace
 
 Json accessibleElements(HWND window) {
   Json list = Json::array();
-  addWindow(window, list);
-  EnumChildWindows(window, addVisibleWindow, reinterpret_cast<LPARAM>(&list));
+  visitElements(window, [&](HWND owner, IAccessible* object, long child) {
+    list.push_back(describe(owner, object, child));
+    list.back()["value"] = text(object, &IAccessible::get_accValue, child);
+    list.back()["action"] = text(object, &IAccessible::get_accDefaultAction, child);
+    return true;
+  });
   return list;
+}
+
+Json accessibleElement(HWND root, HWND window, long child) {
+  Com<IAccessible> object;
+  const bool isThere = window == root || IsChild(root, window);
+  if (!isThere || !IsWindowVisible(window) || !clientOf(window, object)) return nullptr;
+  return describe(window, object.pointer, child);
+}
+
+// Each property is a message to the other program: what is not wanted is not asked for.
+Json findElement(HWND window, long role, const std::string& name) {
+  Json found = nullptr;
+  visitElements(window, [&](HWND owner, IAccessible* object, long child) {
+    if (role != 0 && number(object, &IAccessible::get_accRole, child) != role) return true;
+    if (text(object, &IAccessible::get_accName, child) != name) return true;
+    found = describe(owner, object, child);
+    return false;
+  });
+  return found;
+}
+
+Json namesInState(HWND window, long role, long state) {
+  Json names = Json::array();
+  visitElements(window, [&](HWND, IAccessible* object, long child) {
+    if (!isInState(object, child, state)) return true;  // most are not: it is asked first
+    if (number(object, &IAccessible::get_accRole, child) == role)
+      names.push_back(text(object, &IAccessible::get_accName, child));
+    return true;
+  });
+  return names;
 }
 
 long pressElement(HWND window, long child) {
   Com<IAccessible> object;
   if (!clientOf(window, object)) return E_FAIL;
   return object->accDoDefaultAction(childNumber(child));
+}
+
+long focusElement(HWND window, long child) {
+  Com<IAccessible> object;
+  if (!clientOf(window, object)) return E_FAIL;
+  return object->accSelect(SELFLAG_TAKEFOCUS, childNumber(child));
 }
 
 }  // namespace probe

@@ -1,3 +1,5 @@
+#include <vector>
+
 #include "tools/ui_probe/probe.h"
 
 namespace probe {
@@ -11,9 +13,13 @@ std::string utf8(const wchar_t* text, int length) {
   return result;
 }
 
+std::string classOf(HWND window) {
+  wchar_t name[256] = L"";
+  GetClassNameW(window, name, 256);
+  return utf8(name);
+}
+
 Json describeWindow(HWND window) {
-  wchar_t className[256] = L"";
-  GetClassNameW(window, className, 256);
   wchar_t title[512] = L"";
   DWORD_PTR ignored = 0;
   SendMessageTimeoutW(window, WM_GETTEXT, 512, reinterpret_cast<LPARAM>(title), SMTO_ABORTIFHUNG, 2000, &ignored);
@@ -23,7 +29,7 @@ Json describeWindow(HWND window) {
   GetWindowThreadProcessId(window, &process);
   return {{"window", reinterpret_cast<std::intptr_t>(window)},
           {"process", process},
-          {"class", utf8(className)},
+          {"class", classOf(window)},
           {"title", utf8(title)},
           {"rect", {place.left, place.top, place.right, place.bottom}},
           {"visible", IsWindowVisible(window) != 0},
@@ -33,13 +39,20 @@ Json describeWindow(HWND window) {
 }
 
 static BOOL CALLBACK addToList(HWND window, LPARAM list) {
-  reinterpret_cast<Json*>(list)->push_back(describeWindow(window));
+  reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
   return TRUE;
 }
 
-Json topLevelWindows() {
+// Only those that are meant are asked for their title: it takes an answer of their program.
+Json topLevelWindows(bool onlyVisible, const std::string& className) {
+  std::vector<HWND> windows;
+  EnumWindows(addToList, reinterpret_cast<LPARAM>(&windows));
   Json result = Json::array();
-  EnumWindows(addToList, reinterpret_cast<LPARAM>(&result));
+  for (HWND window : windows) {
+    if (onlyVisible && !IsWindowVisible(window)) continue;
+    if (!className.empty() && classOf(window) != className) continue;
+    result.push_back(describeWindow(window));
+  }
   return result;
 }
 

@@ -2,13 +2,13 @@
 
 import time
 
-from client_popup import FAR_AWAY, FOCUSED, ClientPopupCase
+from client_popup import BOX, FAR_AWAY, FOCUSED, ClientPopupCase
 from session_case import PRESSED, PUSH_BUTTON, desktop, main, wait_for
 
 STEPS = ["First Frame", "Previous Frame", "Next Frame", "Last frame"]
 SINGLE, REPEAT = "Single Playback", "Repeat Playback"
 FIELD = "Frame number"
-BOX = "#32770"
+TEXT = 0x2A  # the role of an entry field
 GENERAL = ("Zephra has encountered an error.  Please de-activate Zephra by clicking off the object.  "
            "Double-click the object to re-activate Zephra")
 # What the popup asks and tells when it plays and when it pauses.
@@ -17,12 +17,9 @@ PAUSES = ["AnimationCurrentFrame", "AnimationState := Boolean False"]
 
 
 class Animation(ClientPopupCase):
-    opener = "Animation Playback"
+    opener = before_opener = "Animation Playback"  # alone in its bar
     fields = {"AnimationState": False, "AnimationCurrentFrame": 3, "AnimationFrameCount": 10,
               "AnimationLoopState": True}
-
-    def names(self):
-        return [e["name"] for e in self.elements() if e["role"] == PUSH_BUTTON]
 
     def offers(self, *names):
         wait_for(lambda: set(names) <= set(self.names()), what=f"{names} among {self.names()}")
@@ -34,8 +31,8 @@ class Animation(ClientPopupCase):
         wait_for(lambda: self.shown_frame() == text, what=f"{text!r} in the frame field, not {self.shown_frame()!r}")
 
     def play_place(self):
-        button = next(e for e in self.elements() if e["name"] in ("Play", "Pause"))
-        return desktop.centre(button["rect"])
+        [name] = {"Play", "Pause"} & set(self.names())
+        return desktop.centre(self.part(name)["rect"])
 
     def click_play(self):
         """The button is drawn by the form and lights up by its edge alone: give the pointer time to arrive."""
@@ -171,14 +168,15 @@ class Frames(Animation):
 
 class Keyboard(Animation):
     def focused_all(self):
-        return [e["name"] for e in self.elements() if e["name"] and (e["state"] or 0) & FOCUSED and e["role"] != 10]
+        return self.names(FOCUSED) + self.probe.names_in_state(self.popup, FOCUSED, TEXT)
 
     def tab_to(self, *names):
         for _ in range(6):
-            if set(self.focused_all()) & set(names):
+            before = self.focused_all()
+            if set(before) & set(names):
                 return
             desktop.key("Tab")
-            time.sleep(0.2)
+            wait_for(lambda: self.focused_all() not in ([], before), what=f"the keyboard to leave {before}")
         self.fail(f"the keyboard does not come to {names}")
 
     def test_tab_moves_through_all_and_keys_press(self):
@@ -199,6 +197,14 @@ class Keyboard(Animation):
         desktop.key("Return")
         self.assertTold(*PAUSES)
 
+    def test_opened_by_keyboard_starts_on_the_play_button(self):
+        self.open_by_keyboard()
+        wait_for(lambda: self.focused_all() == ["Play"], what="the keyboard on the play button")
+        self.popup_picture("animation-opened-by-keyboard")
+        self.client.forget()
+        desktop.key("space")
+        self.assertTold(*PLAYS)
+
     def test_arrows_move_along_the_steps(self):
         self.opened()
         self.tab_to(*STEPS[:2])
@@ -214,7 +220,7 @@ class Keyboard(Animation):
 
     def test_assistive_tools_play(self):
         self.opened()
-        self.assertEqual("Press", self.part("Play")["action"])
+        self.assertEqual(["Press"], [e["action"] for e in self.elements() if e["name"] == "Play"])
         self.probe.press(self.part("Play"))
         self.assertTold(*PLAYS)
         self.offers("Pause")
@@ -272,8 +278,8 @@ class Raising(Animation):
         self.opened()
         self.client.do("raise", "AnimationCurrentFrame :=", 5)
         self.enter("6")
-        time.sleep(0.3)
-        self.assertEqual([], self.probe.windows(class_name=BOX))
+        self.assertTold("AnimationCurrentFrame := Integer 6")
+        self.no_message()
         self.assertEqual("6", self.shown_frame())
 
     def test_unreadable_state_opens_nothing(self):

@@ -63,9 +63,12 @@ class Client:
         return self.answer()
 
     def set(self, **fields):
+        words = []
         for name, value in fields.items():
             kind = "truth" if isinstance(value, bool) else "number" if isinstance(value, int) else "text"
-            self.do("set", name, kind, value)
+            words += [name, kind, value]
+        if words:
+            self.do("set", *words)
 
     def told(self, count, timeout=5):
         """What the model was told since the last forgetting, once there is at least that much."""

@@ -3,7 +3,7 @@
 Option Explicit
 
 Const commandFile = "@COMMAND_FILE@"
-Dim raisingMember, raisingNumber
+Dim raisingMember, raisingNumber, undoingMember, undoing
 
 Function Typed(value)
   Typed = " " & TypeName(value) & " " & value
@@ -15,6 +15,20 @@ Sub Note(member, arguments)
     raisingMember = ""
     Err.Raise raisingNumber
   End If
+  If member = undoingMember Then
+    undoingMember = ""
+    Undo
+  End If
+End Sub
+
+' Takes the control down from inside its own call.
+Sub Undo
+  Select Case undoing
+    Case "hide" : control.ToolbarHide
+    Case "dispose" : control.ToolbarDispose
+    Case "release" : Set control = Nothing
+  End Select
+  WScript.Echo "> undone by " & undoing
 End Sub
 
 Class Model
@@ -169,12 +183,25 @@ Sub SetField(name, kind, value)
     Case "number" : duck.Assign name, CLng(value)
     Case "truth" : duck.Assign name, CBool(value)
   End Select
-  Answer name
+End Sub
+
+Sub SetFields
+  Dim i
+  For i = 1 To UBound(words) - 2 Step 3
+    SetField words(i), words(i + 1), words(i + 2)
+  Next
+  Answer "set"
 End Sub
 
 Sub SetRaising(member, number)
   raisingMember = member
   raisingNumber = CLng(number)
+  Answer member
+End Sub
+
+Sub SetUndoing(member, way)
+  undoingMember = member
+  undoing = way
   Answer member
 End Sub
 
@@ -188,8 +215,9 @@ Sub CarryOut
     Case "catalog" : Answer control.ShowCatalog()
     Case "about" : Answer TypeName(control.ShowAboutBox())
     Case "visible" : Answer control.IsToolbarVisible() & " " & control.IsCatalogVisible()
-    Case "set" : SetField words(1), words(2), words(3)
+    Case "set" : SetFields
     Case "raise" : SetRaising words(1), words(2)
+    Case "undo" : SetUndoing words(1), words(2)
     Case "document" : Answer MsgBox("The client's own window", 0, "Document")
     Case "release" : Set control = Nothing : Answer "released"
     Case "quit" : running = False : Answer "over"

@@ -1,17 +1,17 @@
 """A popup of a script client's toolbar as a person meets it, and what the client's model was told."""
 
-import time
-
 from session_case import HOT, PUSH_BUTTON, SCREENS, SessionCase, desktop, wait_for
 
 FAR_AWAY = (1200, 1000)
 FOCUSED = 0x4
+BOX = "#32770"
 
 
 class ClientPopupCase(SessionCase):
     """Each test begins with the popup closed and the model's members as in `fields`."""
 
     opener = ""
+    before_opener = ""  # the button from which the right arrow key leads to it
 
     def setUp(self):
         self.close()
@@ -24,8 +24,21 @@ class ClientPopupCase(SessionCase):
 
     def open(self):
         desktop.move(self.at(self.opener))
-        time.sleep(0.3)  # a window just shown is not at once under the pointer
+        self.waitForState(self.opener, HOT)  # a window just shown is not at once under the pointer
         self.click(self.opener)
+        self.popup = wait_for(self.shown_popup, what=f"the popup of {self.opener}")
+
+    def open_by_keyboard(self):
+        """From a toolbar that has the keyboard already: an arrow key, which shows where it is, and the space bar."""
+        self.open()
+        desktop.key("Escape")
+        self.wait_closed()
+        self.waitForFront(self.toolbar)
+        self.probe.focus(self.button(self.before_opener))
+        desktop.key("Right")
+        wait_for(lambda: self.probe.names_in_state(self.toolbar, FOCUSED) == [self.opener],
+                 what=f"the keyboard on {self.opener}")
+        desktop.key("space")
         self.popup = wait_for(self.shown_popup, what=f"the popup of {self.opener}")
 
     def opened(self, **fields):
@@ -49,8 +62,16 @@ class ClientPopupCase(SessionCase):
             self.wait_closed()
             self.client.do("show", 300, 300)
 
+    def no_message(self):
+        """A client in a message box would not answer."""
+        self.client.do("visible")
+        self.assertEqual([], self.probe.windows(class_name=BOX))
+
     def elements(self):
         return self.probe.elements(self.popup)
+
+    def names(self, state=0):
+        return self.probe.names_in_state(self.popup, state)
 
     def part(self, name):
         return self.probe.element(self.popup, name, PUSH_BUTTON)
@@ -71,7 +92,7 @@ class ClientPopupCase(SessionCase):
         desktop.click(desktop.centre(self.part(name)["rect"]))
 
     def focused(self):
-        return [e["name"] for e in self.elements() if e["role"] == PUSH_BUTTON and e["state"] & FOCUSED]
+        return self.names(FOCUSED)
 
     def popup_picture(self, name):
         left, top, right, bottom = self.probe.describe(self.popup)["rect"]

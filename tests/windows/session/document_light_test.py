@@ -76,7 +76,7 @@ class Playback(Document):
         if not self.popups():
             self.press(ANIMATION)
         popup = wait_for(lambda: next(iter(self.popups()), None), what="the playback bar")
-        names = [e["name"] for e in self.probe.elements(popup)]
+        names = self.probe.names_in_state(popup)
         if "Pause" in names:
             self.press_in(popup, "Pause")
         if "Repeat Playback" in names:

@@ -22,10 +22,11 @@ OFF, ON = "Turn the light off", "Turn the light on"
 
 class Lighting(ClientPopupCase):
     opener = "Lighting"
+    before_opener = "Model Orientation"
     fields = {"LightIsOn": True, "LightX": 0, "LightY": 0, "LightZ": 100, "LightStatus": 0}
 
     def pressed(self):
-        return [e["name"] for e in self.elements() if e["name"] in LAMPS and e["state"] & PRESSED]
+        return [name for name in self.names(PRESSED) if name in LAMPS]
 
     def wait_pressed(self, *names):
         wait_for(lambda: self.pressed() == list(names), what=f"{names} pressed, not {self.pressed()}")
@@ -42,7 +43,7 @@ class Lighting(ClientPopupCase):
         """The pointer over the popup's own ground."""
         _, _, right, bottom = self.popup["rect"]
         desktop.move((right - 12, bottom - 12))
-        wait_for(lambda: not any(e["state"] & HOT for e in self.elements() if e["state"]), what="no lamp below the pointer")
+        wait_for(lambda: not self.names(HOT), what="no lamp below the pointer")
 
 
 class Lamps(Lighting):
@@ -171,6 +172,28 @@ class Keyboard(Lighting):
         self.wait_pressed(FRONT)
         self.wait_focused(FRONT)
 
+    def test_opened_by_keyboard_starts_on_the_current_lamp(self):
+        self.client.set(LightX=100)
+        self.open_by_keyboard()
+        self.wait_focused("Light from right")
+        self.popup_picture("lighting-opened-by-keyboard")
+        self.close()
+        self.client.set(LightIsOn=False)
+        self.open_by_keyboard()
+        self.wait_focused(ON)
+
+    def test_the_frame_is_no_stop_of_the_tab_key(self):
+        self.open_by_keyboard()
+        self.wait_focused(FRONT)
+        seen = []
+        for _ in range(6):
+            before = self.focused()
+            self.key("Tab")
+            wait_for(lambda: self.focused() not in ([], before), what=f"the keyboard to leave {before}")
+            seen += self.focused()
+        self.assertEqual(6, len(set(seen)))
+        self.assertEqual(FRONT, seen[-1])
+
     def test_tab_leads_to_the_switch_and_back(self):
         self.opened()
         self.key("Right")
@@ -231,10 +254,6 @@ class Raising(Lighting):
 
     def raising(self, member):
         self.client.do("raise", member, 1234)
-
-    def no_message(self):
-        time.sleep(0.3)
-        self.assertEqual([], self.probe.windows(class_name="#32770"))
 
     def test_light_that_cannot_be_asked_for(self):
         for member in ("LightIsOn", "GetLightDirection", "LightIsOn :="):

@@ -82,10 +82,11 @@ class PaletteCase(SessionCase):
 class Cells(PaletteCase):
     def test_every_cell_and_entry_is_named_once(self):
         self.open()
-        buttons = [e["name"] for e in self.probe.elements(self.popup()) if e["role"] == PUSH_BUTTON]
+        elements = self.probe.elements(self.popup())
+        buttons = [e["name"] for e in elements if e["role"] == PUSH_BUTTON]
         self.assertEqual(sorted([*NAMED, *RECENT, "More Colors", "LookStyle Default"]), sorted(buttons))
         for name in ("More Colors", "LookStyle Default"):
-            self.assertEqual(1, sum(e["name"] == name for e in self.probe.elements(self.popup())), name)
+            self.assertEqual(1, sum(e["name"] == name for e in elements), name)
         self.picture("open")
 
     def test_opening_asks_for_the_color_only_if_there_is_one(self):

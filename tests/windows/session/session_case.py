@@ -73,7 +73,7 @@ class SessionCase(unittest.TestCase):
         return self.probe.element(self.popup(), name, PUSH_BUTTON)
 
     def partsIn(self, state):
-        return [e["name"] for e in self.probe.elements(self.popup()) if e["role"] == PUSH_BUTTON and e["state"] & state]
+        return self.probe.names_in_state(self.popup(), state)
 
     def height(self):
         _, top, _, bottom = self.probe.describe(self.toolbar)["rect"]
