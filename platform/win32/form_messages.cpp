@@ -8,8 +8,9 @@ namespace {
 
 constexpr LPARAM nothingToRepaint = -1;  // of a window's frame, as the system wants to be told
 constexpr UINT_PTR focusTimer = 0x4E46;
-constexpr UINT focusPatience = 200;  // milliseconds
-constexpr DWORD justNow = 500;
+// Milliseconds: a window manager on a busy machine takes its time.
+constexpr UINT focusPatience = 600;
+constexpr DWORD justNow = 1000;
 
 bool isFocusNobodys() {
   const HWND foreground = GetForegroundWindow();
