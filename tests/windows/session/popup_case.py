@@ -54,9 +54,13 @@ class PopupCase(unittest.TestCase):
     def setUpClass(cls):
         cls.probe = Probe()
         cls.addClassCleanup(cls.probe.close)
+        cls.start()
+        cls.addClassCleanup(lambda: cls.host.close())  # a test may have started another one
+
+    @classmethod
+    def start(cls):
         model = next(programs.models.rglob(ANIMATED))
         cls.host = Host(model, program=programs.host, place=cls.place)
-        cls.addClassCleanup(cls.host.close)
         cls.document = cls.probe.window(DOCUMENT + " - ")
         cls.edit()
         cls.choose_style("Flat Cartoon")
@@ -93,7 +97,7 @@ class PopupCase(unittest.TestCase):
         if not self.probe.windows(TOOLBAR):
             self.edit()
         self.bar = self.probe.describe(self.toolbar)["rect"]
-        self.settled()
+        self.settled(0.2)
         self.host.calls()
 
     def each(self, scenario, popups=POPUPS):
@@ -121,12 +125,13 @@ class PopupCase(unittest.TestCase):
     def is_latched(self, popup):
         return bool(self.button(popup)["state"] & PRESSED)
 
-    def settled(self):
-        """The model hears nothing more."""
+    def settled(self, quiet=0.08):
+        """The host has done what it was at, and the model hears nothing more for so many seconds."""
         count = -1
-        while count != len(self.host.log_file.read_text(encoding="utf-8")):
-            count = len(self.host.log_file.read_text(encoding="utf-8"))
-            desktop.pause(0.15)
+        while count != self.host.log_file.stat().st_size:
+            count = self.host.log_file.stat().st_size
+            desktop.pause(quiet)
+            self.probe.describe(self.toolbar)  # whose title a host at work does not tell
 
     def open(self, popup):
         """One press, and the popup is there."""
@@ -147,6 +152,17 @@ class PopupCase(unittest.TestCase):
         self.assertEqual([], self.popups())
         self.assertFalse(self.is_latched(popup))
         self.assertEqual(list(calls), without_values(self.host.calls()))
+
+    def away_and_back(self, told):
+        """To another program and back to the object; what the model hears when the user leaves."""
+        with desktop.OtherProgram() as other:
+            other.click()
+            self.probe.gone(TOOLBAR)
+            self.settled()
+            self.assertEqual([], self.popups())
+            self.assertEqual(told, without_values(self.host.calls()))
+            desktop.click(self.object_centre())
+            self.assertTrue(self.probe.window(TOOLBAR)["topmost"])
 
     def picture(self, name):
         desktop.picture(SCREENS / f"{name}.png")

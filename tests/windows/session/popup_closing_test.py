@@ -1,9 +1,12 @@
 """How each popup opens, hangs, latches its button and closes, in the demo host under a real mouse and keyboard."""
 
-from popup_case import (ANIMATION, BACKGROUND, FILL, LIGHTING, LINE, POPUPS, THICKNESS, PopupCase,
+from popup_case import (ANIMATION, BACKGROUND, DOCUMENT, FILL, LIGHTING, LINE, POPUPS, THICKNESS, TOOLBAR, PopupCase,
                         without_values)
-from session_case import desktop, main, wait_for
+from session_case import PUSH_BUTTON, desktop, main, wait_for
 
+DIALOG = "#32770"
+LEFT = "let IsToolbarShowing = False"
+PLAYING = "get AnimationState"  # asked whenever the application loses or regains the focus
 # Screen pixels, as the library has them.
 BELOW = 25
 LIGHTING_LEFT = 23
@@ -12,53 +15,153 @@ ANIMATION_DROP = 40
 
 
 class Closing(PopupCase):
-    def opens_again(self, popup):
-        self.open(popup)
+    """Every way out of a popup, and after each of them one press that opens it at once."""
 
-    def test_its_button_again(self):
-        def scenario(popup):
-            for _ in range(3):
+    def leave(self, popup, *ways):
+        is_open = False
+        for way in ways:
+            with self.subTest(way.__name__):
+                if not is_open:
+                    self.setUp()
+                    self.open(popup)
+                is_open = False
+                way(popup)
                 self.open(popup)
-                self.press(popup)
-                if popup.keeps_open:
-                    self.opened(popup)  # it is just shown again
-                else:
+                is_open = True
+
+    def its_button(self, popup):
+        for _ in range(2):
+            self.press(popup)
+            self.assertClosed(popup)
+            self.open(popup)
+        self.press(popup)
+        self.assertClosed(popup)
+
+    def its_button_without_moving(self, popup):
+        desktop.click(self.at(popup))
+        self.assertClosed(popup)
+        desktop.click(self.at(popup))
+        self.opened(popup)
+        desktop.click(self.at(popup))
+        self.assertClosed(popup)
+
+    def its_default_action(self, popup):
+        self.probe.press(self.button(popup))
+        self.assertClosed(popup)
+        self.probe.press(self.button(popup))
+        self.opened(popup)
+        self.probe.press(self.button(popup))
+        self.assertClosed(popup)
+
+    def press_that_ends_elsewhere(self, popup):
+        """It closes but does not count."""
+        desktop.press_mouse(self.at(popup))
+        desktop.release_mouse((self.bar[0] + 60, self.bar[1] + 8))
+        self.assertClosed(popup)
+
+    def right_click_on_its_button(self, popup):
+        """It closes but is no press."""
+        desktop.click(self.at(popup), button=3)
+        self.assertClosed(popup)
+
+    def escape(self, popup):
+        desktop.key("Escape")
+        self.assertClosed(popup)
+
+    def click_on_the_object(self, popup):
+        desktop.click(self.object_centre())
+        self.assertClosed(popup)
+
+    def click_beside_the_object(self, popup):
+        """It ends the editing, and takes the toolbar along."""
+        desktop.click(self.beside_object())
+        self.probe.gone(TOOLBAR)
+        self.settled()
+        self.assertEqual([], self.popups())
+        self.assertEqual([LEFT], self.host.calls())
+        self.edit()
+        self.settled()
+        self.host.calls()
+        self.assertClosed(popup)
+
+    def button_of_another(self, popup):
+        other = LIGHTING if popup is THICKNESS else THICKNESS
+        self.open(other)
+        self.assertFalse(self.is_latched(popup))
+        self.open(popup)
+        self.assertFalse(self.is_latched(other))
+        desktop.key("Escape")
+        self.assertClosed(popup)
+
+    def another_program(self, popup):
+        # Under Wine a tool window that no click has reached yet does not notice that another program is activated.
+        left, top, _, _ = self.probe.describe(self.popups()[0])["rect"]
+        desktop.click((left + 3, top + 3))
+        self.away_and_back([PLAYING])
+        self.assertClosed(popup, PLAYING)
+
+    def every_way_out(self, popup):
+        self.leave(popup, self.its_button, self.its_button_without_moving, self.its_default_action,
+                   self.press_that_ends_elsewhere, self.right_click_on_its_button, self.escape,
+                   self.click_on_the_object, self.click_beside_the_object, self.button_of_another,
+                   self.another_program)
+
+    def test_thickness(self):
+        self.every_way_out(THICKNESS)
+
+    def test_line_color(self):
+        self.every_way_out(LINE)
+
+    def test_fill_color(self):
+        self.every_way_out(FILL)
+
+    def test_background(self):
+        self.every_way_out(BACKGROUND)
+
+    def test_lighting(self):
+        self.every_way_out(LIGHTING)
+
+    def test_animation(self):
+        self.leave(ANIMATION, self.escape, self.click_beside_the_object, self.another_program)
+
+    def test_animation_stays_beside_the_editing(self):
+        """Its button just shows it again, and whatever else is opened or clicked does not close it."""
+        self.open(ANIMATION)
+        self.open(ANIMATION)
+        self.probe.press(self.button(ANIMATION))
+        self.opened(ANIMATION)
+        desktop.click(self.object_centre())
+        self.settled()
+        self.assertEqual(1, len(self.popups()))
+        self.assertEqual([], self.host.calls())
+        self.open(ANIMATION)
+
+
+class FastClicks(PopupCase):
+    def in_step(self, popup):
+        return len(self.popups()) == int(self.is_latched(popup))
+
+    def test_they_leave_latch_and_popup_in_step(self):
+        def scenario(popup):
+            for count, delay in ((2, 60), (3, 60), (5, 25), (9, 5)):
+                self.press(popup, count=count, delay=delay)
+                # The last clicks may still be on their way, and a button that is held looks latched.
+                wait_for(lambda: self.in_step(popup), what="latch and popup in step")
+                self.settled(0.3)
+                self.assertTrue(self.in_step(popup))
+                self.host.calls()
+                if self.popups():
+                    self.press(popup)
                     self.assertClosed(popup)
-
-        self.each(scenario)
-
-    def test_escape(self):
-        def scenario(popup):
-            self.open(popup)
-            desktop.key("Escape")
-            self.assertClosed(popup)
-            self.opens_again(popup)
-
-        self.each(scenario)
-
-    def test_click_on_the_object(self):
-        def scenario(popup):
-            self.open(popup)
-            desktop.click(self.object_centre())
-            if popup.keeps_open:
-                self.settled()
-                self.assertEqual(1, len(self.popups()))
-                self.assertEqual([], self.host.calls())
-            else:
-                self.assertClosed(popup)
-            self.opens_again(popup)
-
-        self.each(scenario)
-
-    def test_press_that_ends_elsewhere_closes_but_does_not_count(self):
-        def scenario(popup):
-            self.open(popup)
-            desktop.press_mouse(self.at(popup))
-            desktop.release_mouse((self.bar[0] + 60, self.bar[1] + 8))
-            self.assertClosed(popup)
-            self.opens_again(popup)
+                self.open(popup)
 
         self.each(scenario, POPUPS[:-1])
+
+    def test_the_playback_bar_stays(self):
+        self.press(ANIMATION, count=5)
+        self.settled(0.3)
+        self.host.calls()
+        self.open(ANIMATION)
 
 
 class Choosing(PopupCase):
@@ -90,6 +193,7 @@ class Choosing(PopupCase):
                 self.assertEqual([*popup.asked, f"get {member}"], without_values(self.host.calls()))
                 desktop.click((window["rect"][0] + 40, window["rect"][1] + 20))
                 self.assertClosed(popup, f"RestoreDefault{member}")
+                self.open(popup)
 
     def test_lighting_stays_for_the_next_choice(self):
         self.choose(LIGHTING, "Light from above")
@@ -98,17 +202,59 @@ class Choosing(PopupCase):
         self.assertEqual(1, len(self.popups()))
         self.press(LIGHTING)
         self.assertClosed(LIGHTING)
+        self.open(LIGHTING)
 
     def test_animation_stays_for_the_next_step(self):
         self.choose(ANIMATION, "Next Frame")
         self.settled()
         self.assertEqual(["AnimationIncrementFrame", "get AnimationCurrentFrame"], without_values(self.host.calls()))
         self.assertEqual(1, len(self.popups()))
+        self.open(ANIMATION)
+
+
+class Dialog(PopupCase):
+    """The colour dialog keeps its palette open; who leaves it finds neither again."""
+
+    def open_dialog(self, popup):
+        window = self.open(popup)
+        desktop.click(desktop.centre(self.probe.element(window, "More Colors", PUSH_BUTTON)["rect"]))
+        dialog = self.probe.window(class_name=DIALOG)
+        wait_for(lambda: self.probe.ask("foreground") == dialog["window"], what="the dialog in front")
+        self.assertEqual(1, len(self.popups()))
+        return dialog
+
+    def test_cancel(self):
+        def scenario(popup):
+            self.open_dialog(popup)
+            desktop.key("Escape")
+            self.probe.gone(class_name=DIALOG)
+            self.assertClosed(popup)
+            self.open(popup)
+
+        self.each(scenario, [LINE, FILL, BACKGROUND])
+
+    def test_another_program(self):
+        def scenario(popup):
+            self.open_dialog(popup)
+            self.away_and_back([PLAYING])
+            self.assertEqual([], self.probe.windows(class_name=DIALOG))
+            self.assertClosed(popup, PLAYING)
+            self.open(popup)
+
+        self.each(scenario, [LINE, FILL, BACKGROUND])
+
+    def test_closing_the_document(self):
+        self.open_dialog(FILL)
+        self.probe.ask("post", self.document["window"], 0x10, 0, 0)
+        self.host.process.wait(timeout=10)
+        self.assertEqual(0, self.host.process.returncode)
+        self.assertFalse(self.probe.windows(DOCUMENT))
+        self.start()
 
 
 class Placement(PopupCase):
     def bar_corner(self, popup):
-        left, top, _, _ = next(e["rect"] for e in self.probe.elements(self.toolbar) if e["name"] == popup.bar)
+        left, top, _, _ = self.probe.element(self.toolbar, popup.bar)["rect"]
         return left, top
 
     def screen(self):
@@ -157,6 +303,10 @@ class Placement(PopupCase):
     def test_at_the_lower_edge(self):
         self.drag_toolbar(300, 950)
         self.check("below")
+
+    def test_at_the_right_edge(self):
+        self.drag_toolbar(1280 - 320, 500)
+        self.check("right")
 
 
 if __name__ == "__main__":
