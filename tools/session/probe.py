@@ -1,6 +1,7 @@
 """The windows of the Wine desktop and their accessible elements, as an assistive tool sees them."""
 
 import json
+import select
 import subprocess
 import time
 from pathlib import Path
@@ -31,6 +32,9 @@ class Probe:
     def ask(self, *words):
         self.process.stdin.write(" ".join(str(word) for word in words) + "\n")
         self.process.stdin.flush()
+        if not select.select([self.process.stdout], [], [], 60)[0]:
+            self.process.kill()
+            raise RuntimeError(f"the probe does not answer: {words}")
         line = self.process.stdout.readline()
         if not line:
             raise RuntimeError("the probe has died")
