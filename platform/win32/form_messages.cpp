@@ -8,9 +8,8 @@ namespace {
 
 constexpr LPARAM nothingToRepaint = -1;  // of a window's frame, as the system wants to be told
 constexpr UINT_PTR focusTimer = 0x4E46;
-// Milliseconds: a window manager on a busy machine takes its time.
-constexpr UINT focusPatience = 600;
-constexpr DWORD justNow = 1000;
+constexpr UINT focusPatience = 200;  // milliseconds
+constexpr DWORD justNow = 500;
 
 bool isFocusNobodys() {
   const HWND foreground = GetForegroundWindow();
