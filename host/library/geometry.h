@@ -61,6 +61,7 @@ struct Surface {
   std::vector<Vec> normals;
   std::vector<std::uint32_t> indices;
   std::vector<std::array<float, 2>> imagePlaces;  ///< where each point lies on its paint's picture; or empty
+  std::vector<std::array<float, 3>> colours;      ///< of each point, linear light; or empty
 
   void append(const Surface& other);
 };

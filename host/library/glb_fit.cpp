@@ -3,7 +3,6 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
-#include <nlohmann/json.hpp>
 #include <set>
 
 namespace nerida::library {
@@ -54,14 +53,23 @@ void wrapScene(json& document, const Model::Extent& extent) {
   scene["nodes"] = json::array({document["nodes"].size() - 1});
 }
 
+std::size_t descriptionEnd(const std::string& bytes) {
+  return headerSize + chunkHeaderSize + wordAt(bytes, headerSize);
+}
+
 }  // namespace
 
-std::string fittedGlb(const std::string& bytes, const Model::Extent& extent) {
+json descriptionOf(const std::string& bytes) {
+  return json::parse(bytes.begin() + headerSize + chunkHeaderSize,
+                     bytes.begin() + static_cast<std::ptrdiff_t>(descriptionEnd(bytes)));
+}
+
+std::string fittedGlb(const std::string& file, const Model::Extent& extent) {
+  const std::string bytes = file.substr(0, wordAt(file, 8));  // what lies behind the end belongs to nobody
   constexpr float unnoticeable = 1e-3F;
   if (length(extent.middle) < unnoticeable && std::abs(extent.radius - 1) < unnoticeable) return bytes;
-  const std::size_t size = wordAt(bytes, headerSize), rest = headerSize + chunkHeaderSize + size;
-  json document =
-      json::parse(bytes.begin() + headerSize + chunkHeaderSize, bytes.begin() + static_cast<std::ptrdiff_t>(rest));
+  const std::size_t rest = descriptionEnd(bytes);
+  json document = descriptionOf(bytes);
   wrapScene(document, extent);
   std::string text = document.dump(-1, ' ', false, json::error_handler_t::replace);
   text.resize((text.size() + 3) / 4 * 4, ' ');

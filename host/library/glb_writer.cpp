@@ -112,7 +112,8 @@ class Writer {
       const std::size_t positions = addVectors(surface.points, vertexData);
       setBounds(positions, surface.points);
       json attributes{{"POSITION", positions}, {"NORMAL", addVectors(surface.normals, vertexData)}};
-      if (!surface.imagePlaces.empty()) attributes["TEXCOORD_0"] = addImagePlaces(surface);
+      if (!surface.imagePlaces.empty()) attributes["TEXCOORD_0"] = addNumbers(surface.imagePlaces, "VEC2");
+      if (!surface.colours.empty()) attributes["COLOR_0"] = addNumbers(surface.colours, "VEC3");
       primitives.push_back({{"attributes", attributes}, {"indices", addIndices(surface)}, {"material", paint}});
     }
     document["meshes"].push_back({{"name", node.name}, {"primitives", primitives}});
@@ -127,13 +128,13 @@ class Writer {
     return document["bufferViews"].size() - 1;
   }
 
-  std::size_t addImagePlaces(const Surface& surface) {
+  template <std::size_t Count>
+  std::size_t addNumbers(const std::vector<std::array<float, Count>>& rows, const char* shape) {
     const std::size_t start = binary.size();
-    for (const auto& [across, down] : surface.imagePlaces) {
-      put(binary, across);
-      put(binary, down);
+    for (const auto& row : rows) {
+      for (const float number : row) put(binary, number);
     }
-    return addAccessor(start, vertexData, floating, surface.imagePlaces.size(), "VEC2");
+    return addAccessor(start, vertexData, floating, rows.size(), shape);
   }
 
   std::size_t addAccessor(std::size_t start, Target target, ComponentType type, std::size_t count, const char* shape) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <nlohmann/json.hpp>
 
 #include "host/library/fields.h"
 #include "host/library/files.h"
@@ -29,11 +30,24 @@ Model parsed(const std::string& bytes) {
   return Model::parse({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()});
 }
 
+/// Pictures that lie in other files stay behind.
+void remarkMissingPictures(const std::string& bytes, std::vector<std::string>& remarks) {
+  const nlohmann::json document = descriptionOf(bytes);
+  if (!document.contains("images")) return;
+  for (const nlohmann::json& image : document["images"]) {
+    const std::string place = image.value("uri", "data:");
+    if (!place.starts_with("data:")) {
+      remarks.push_back("the picture " + place.substr(0, 60) + " lies in another file; its colour is left out");
+    }
+  }
+}
+
 ImportedModel importGlb(const fs::path& file) {
   const std::optional<std::string> bytes = readWhole(file);
   if (!bytes) throw LibraryError(file.string() + ": cannot be read");
   ImportedModel imported;
   imported.bytes = fittedGlb(*bytes, parsed(*bytes).extent());
+  remarkMissingPictures(*bytes, imported.remarks);
   return imported;
 }
 

@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <cmath>
-#include <sstream>
+#include <limits>
 #include <tuple>
 
 #include "host/library/fields.h"
 #include "host/library/files.h"
-#include "host/library/obj_reader.h"
+#include "host/library/obj_file.h"
+#include "host/library/obj_materials.h"
+#include "host/library/polygon.h"
 
 namespace nerida::library {
 namespace {
@@ -17,137 +19,93 @@ namespace fs = std::filesystem;
 constexpr double defaultCrease = 50;
 constexpr std::size_t mostTriangles = 1'000'000;
 
-fs::path pathOf(const std::string& utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
-
-/// Finds the material files that lie beside the model, and remembers those that do not.
-class MaterialsBeside : public tinyobj::MaterialReader {
- public:
-  MaterialsBeside(fs::path folder, std::vector<std::string>& missing) : beside(std::move(folder)), remarks(missing) {}
-
-  bool operator()(const std::string& name, std::vector<tinyobj::material_t>* materials,
-                  std::map<std::string, int>* numbers, std::string* warning, std::string* error) override {
-    const std::optional<std::string> text = readWhole(beside / pathOf(name));
-    if (!text) {
-      remarks.push_back("the materials " + name + " cannot be found; the model gets a plain colour");
-      return false;
-    }
-    std::istringstream stream(*text);
-    tinyobj::LoadMtl(numbers, materials, &stream, warning, error);
-    return true;
+/// Screens show a number's 2.2nd power, more or less; the file has the numbers.
+std::array<float, 3> lightOf(const std::array<double, 3>& colour) {
+  std::array<float, 3> light{};
+  for (std::size_t i = 0; i < 3; ++i) {
+    constexpr double linearEnd = 0.04045, slope = 12.92, offset = 0.055, exponent = 2.4;
+    const double value = colour[i];
+    light[i] =
+        static_cast<float>(value <= linearEnd ? value / slope : std::pow((value + offset) / (1 + offset), exponent));
   }
-
- private:
-  fs::path beside;
-  std::vector<std::string>& remarks;
-};
-
-struct Source {
-  tinyobj::attrib_t points;
-  std::vector<tinyobj::shape_t> shapes;
-  std::vector<tinyobj::material_t> materials;
-};
-
-Source parse(const fs::path& file, std::vector<std::string>& remarks) {
-  const std::optional<std::string> text = readWhole(file);
-  if (!text) throw LibraryError(file.string() + ": cannot be read");
-  Source source;
-  std::istringstream stream(*text);
-  MaterialsBeside reader(file.parent_path(), remarks);
-  std::string warning, error;
-  constexpr bool intoTriangles = true, withDefaultColors = false;
-  const bool done = tinyobj::LoadObj(&source.points, &source.shapes, &source.materials, &warning, &error, &stream,
-                                     &reader, intoTriangles, withDefaultColors);
-  if (!done) throw LibraryError(file.string() + ": is not an OBJ file that can be read");
-  return source;
+  return light;
 }
 
-std::string imageTypeOf(const std::string& bytes) {
-  if (bytes.rfind("\x89PNG", 0) == 0) return "image/png";
-  if (bytes.rfind("\xFF\xD8\xFF", 0) == 0) return "image/jpeg";
-  return {};
-}
-
-Paint paintOf(const tinyobj::material_t& material, const fs::path& folder, std::vector<std::string>& remarks) {
-  Paint paint;
-  paint.name = material.name;
-  paint.red = std::clamp<double>(material.diffuse[0], 0, 1);
-  paint.green = std::clamp<double>(material.diffuse[1], 0, 1);
-  paint.blue = std::clamp<double>(material.diffuse[2], 0, 1);
-  paint.doubleSided = true;  // OBJ files do not say which side is meant
-  if (material.diffuse_texname.empty()) return paint;
-  std::string name = material.diffuse_texname;
-  std::ranges::replace(name, '\\', '/');
-  paint.image = readWhole(folder / pathOf(name)).value_or("");
-  paint.imageType = imageTypeOf(paint.image);
-  if (paint.imageType.empty()) {
-    remarks.push_back("the picture " + material.diffuse_texname + " cannot be used; its colour is left out");
-    paint.image.clear();
+/// Brings the places into about the unit cube: what follows compares places, and points far from the origin or tiny
+/// models would all be one.
+void bringNear(std::vector<Vec>& points) {
+  constexpr double most = std::numeric_limits<double>::max();
+  Vec low{most, most, most}, high{-most, -most, -most};
+  for (const Vec& p : points) {
+    low = {std::min(low.x, p.x), std::min(low.y, p.y), std::min(low.z, p.z)};
+    high = {std::max(high.x, p.x), std::max(high.y, p.y), std::max(high.z, p.z)};
   }
-  return paint;
+  const Vec size = high - low;
+  const double largest = std::max({size.x, size.y, size.z});
+  if (!std::isfinite(largest)) throw LibraryError("a point is infinitely far away");
+  if (!std::isfinite(1 / largest)) return;  // all in one place
+  for (Vec& p : points) p = (p - low) * (1 / largest);
 }
 
-/// Brings the triangles of one shape into the surfaces of their paints.
+/// Cuts the faces into triangles and sorts these by their paints.
 class Collector {
  public:
-  Collector(const Source& from, BuiltModel& into) : source(from), model(into) {}
-
-  void add(const tinyobj::mesh_t& shape) {
-    const std::size_t faces = shape.indices.size() / 3;
-    count += faces;
-    if (count > mostTriangles) throw LibraryError("the model has more than a million triangles");
-    for (std::size_t face = 0; face < faces; ++face) collect(shape, face);
+  Collector(const ObjFile& from, const ObjMaterials& materials, BuiltModel& into) : source(from), model(into) {
+    for (const std::string& name : source.materialNames) paintNumbers.push_back(materials.paintOf(name));
+    takeUsedPoints();
+    for (const ObjFace& face : source.faces) cut(face);
     smooth();
-    for (std::size_t face = 0; face < corners.size() / 3; ++face) emit(face);
-    mesh = {};
-    corners.clear();
-    paints.clear();
-    seen.clear();
+    for (std::size_t face = 0; face < mesh.triangles.size(); ++face) emit(face);
   }
 
  private:
   struct Corner {
-    tinyobj::index_t index;
+    ObjCorner place;
     Vec normal;
   };
   using Key = std::tuple<int, int, long long, long long, long long, std::size_t>;
 
-  void collect(const tinyobj::mesh_t& shape, std::size_t face) {
-    std::array<std::uint32_t, 3> triangle{};
-    for (std::size_t i = 0; i < 3; ++i) {
-      const tinyobj::index_t index = shape.indices[face * 3 + i];
-      triangle[i] = mesh.add(pointAt(index.vertex_index));
-      corners.push_back({index, {}});
+  /// Stray points that no face touches must not decide how large the model is.
+  void takeUsedPoints() {
+    numbers.assign(source.points.size(), -1);
+    for (const ObjFace& face : source.faces) {
+      for (std::size_t i = face.firstCorner; i < face.firstCorner + face.cornerCount; ++i) {
+        int& number = numbers[static_cast<std::size_t>(source.corners[i].point)];
+        if (number >= 0) continue;
+        number = static_cast<int>(mesh.points.size());
+        mesh.points.push_back(source.points[static_cast<std::size_t>(source.corners[i].point)]);
+      }
     }
-    mesh.triangles.push_back(triangle);
-    const int material = face < shape.material_ids.size() ? shape.material_ids[face] : -1;
-    const bool known = material >= 0 && static_cast<std::size_t>(material) < source.materials.size();
-    paints.push_back(known ? static_cast<std::size_t>(material) : source.materials.size());
+    bringNear(mesh.points);
   }
 
-  [[nodiscard]] Vec pointAt(int index) const {
-    const std::size_t at = static_cast<std::size_t>(index) * 3;
-    if (index < 0 || at + 2 >= source.points.vertices.size())
-      throw LibraryError("a face names a point that is not there");
-    const auto& values = source.points.vertices;
-    const Vec point{values[at], values[at + 1], values[at + 2]};
-    if (!std::isfinite(point.x + point.y + point.z)) throw LibraryError("a point is infinitely far away");
-    return point;
+  [[nodiscard]] std::uint32_t pointOf(const ObjCorner& corner) const {
+    return static_cast<std::uint32_t>(numbers[static_cast<std::size_t>(corner.point)]);
   }
 
-  /// The file's own normal, unless it is missing or no direction.
-  [[nodiscard]] Vec normalAt(int index) const {
-    const std::size_t at = static_cast<std::size_t>(std::max(index, 0)) * 3;
-    if (index < 0 || at + 2 >= source.points.normals.size()) return {};
-    const auto& values = source.points.normals;
-    const Vec normal = normalized({values[at], values[at + 1], values[at + 2]});
-    return std::isfinite(normal.x + normal.y + normal.z) ? normal : Vec{};
+  void cut(const ObjFace& face) {
+    std::vector<Vec> outline;
+    for (std::size_t i = 0; i < face.cornerCount; ++i) {
+      outline.push_back(mesh.points[pointOf(source.corners[face.firstCorner + i])]);
+    }
+    for (const auto& triangle : trianglesOfPolygon(outline)) {
+      const auto at = [&](std::size_t i) -> const ObjCorner& { return source.corners[face.firstCorner + triangle[i]]; };
+      const Vec &a = outline[triangle[0]], &b = outline[triangle[1]], &c = outline[triangle[2]];
+      if (length(cross(b - a, c - a)) <= 0) continue;
+      if (mesh.triangles.size() == mostTriangles) throw LibraryError("the model has more than a million triangles");
+      mesh.triangles.push_back({pointOf(at(0)), pointOf(at(1)), pointOf(at(2))});
+      for (std::size_t i = 0; i < 3; ++i) corners.push_back({at(i), {}});
+      paints.push_back(face.material < 0 ? 0 : paintNumbers[static_cast<std::size_t>(face.material)]);
+    }
   }
 
+  /// The file's own normals, unless they are missing or no directions.
   void smooth() {
     const std::vector<Vec> made = cornerNormals(mesh, defaultCrease);
     for (std::size_t i = 0; i < corners.size(); ++i) {
-      const Vec own = normalAt(corners[i].index.normal_index);
-      corners[i].normal = length(own) > 0 ? own : made[i];
+      const int own = corners[i].place.normal;
+      corners[i].normal = own < 0 ? Vec{} : source.normals[static_cast<std::size_t>(own)];
+      if (length(corners[i].normal) <= 0) corners[i].normal = made[i];
     }
   }
 
@@ -155,10 +113,10 @@ class Collector {
     Surface& surface = model.root.surfaces[paints[face]];
     const bool pictured = !model.paints[paints[face]].image.empty();
     for (std::size_t i = face * 3; i < face * 3 + 3; ++i) {
-      const auto& [index, normal] = corners[i];
+      const auto& [place, normal] = corners[i];
       constexpr double grid = 1e4;
-      const Key key{index.vertex_index,
-                    index.texcoord_index,
+      const Key key{place.point,
+                    pictured ? place.image : -1,
                     std::llround(normal.x * grid),
                     std::llround(normal.y * grid),
                     std::llround(normal.z * grid),
@@ -166,49 +124,56 @@ class Collector {
       const auto next = static_cast<std::uint32_t>(surface.points.size());
       const auto [found, isNew] = seen.try_emplace(key, next);
       if (isNew) {
-        surface.points.push_back(mesh.points[i]);
+        surface.points.push_back(mesh.points[mesh.triangles[face][i % 3]]);
         surface.normals.push_back(length(normal) > 0 ? normal : Vec{0, 1, 0});
-        if (pictured) surface.imagePlaces.push_back(imagePlace(index.texcoord_index));
+        if (pictured) surface.imagePlaces.push_back(imagePlace(place.image));
+        if (!source.colours.empty()) {
+          surface.colours.push_back(lightOf(source.colours[static_cast<std::size_t>(place.point)]));
+        }
       }
       surface.indices.push_back(found->second);
     }
   }
 
   [[nodiscard]] std::array<float, 2> imagePlace(int index) const {
-    const std::size_t at = static_cast<std::size_t>(std::max(index, 0)) * 2;
-    const auto& values = source.points.texcoords;
-    if (index < 0 || at + 1 >= values.size()) return {0, 0};
-    const auto sane = [](float v) { return std::isfinite(v) ? v : 0.0F; };
-    return {sane(values[at]), 1 - sane(values[at + 1])};  // OBJ counts from the lower edge
+    return index < 0 ? std::array<float, 2>{} : source.imagePlaces[static_cast<std::size_t>(index)];
   }
 
-  const Source& source;
+  const ObjFile& source;
   BuiltModel& model;
+  std::vector<std::size_t> paintNumbers;  ///< of the file's materials
+  std::vector<int> numbers;               ///< of the file's points within the mesh; -1 = not used
   Mesh mesh;
   std::vector<Corner> corners;
   std::vector<std::size_t> paints;
   std::map<Key, std::uint32_t> seen;
-  std::size_t count = 0;
 };
+
+BuiltModel builtFrom(const std::string& text, const fs::path& folder, std::vector<std::string>& remarks) {
+  const ObjFile source = readObj(text);
+  if (source.faces.empty()) throw LibraryError("the model is empty");
+  ObjMaterials materials(folder, remarks);
+  for (const std::string& names : source.materialFiles) materials.readFiles(names);
+  BuiltModel model;
+  model.paints = materials.paints;
+  Paint& plain = model.paints.front();
+  if (!source.colours.empty()) plain.red = plain.green = plain.blue = 1;  // the points' colours are seen through it
+  const Collector collector(source, materials, model);
+  if (triangleCount(model.root) == 0) throw LibraryError("the model is empty");
+  fitIntoUnitSphere(model);
+  return model;
+}
 
 }  // namespace
 
 BuiltModel importObj(const fs::path& file, std::vector<std::string>& remarks) {
-  const Source source = parse(file, remarks);
-  BuiltModel model;
-  for (const tinyobj::material_t& material : source.materials) {
-    model.paints.push_back(paintOf(material, file.parent_path(), remarks));
-  }
-  model.paints.push_back({.name = "plain", .doubleSided = true, .image = {}, .imageType = {}});
+  const std::optional<std::string> text = readWhole(file);
+  if (!text) throw LibraryError(file.string() + ": cannot be read");
   try {
-    Collector collector(source, model);
-    for (const tinyobj::shape_t& shape : source.shapes) collector.add(shape.mesh);
+    return builtFrom(*text, file.parent_path(), remarks);
   } catch (const LibraryError& error) {
     throw LibraryError(file.string() + ": " + error.what());
   }
-  if (triangleCount(model.root) == 0) throw LibraryError(file.string() + ": the model is empty");
-  fitIntoUnitSphere(model);
-  return model;
 }
 
 }  // namespace nerida::library

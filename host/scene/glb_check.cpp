@@ -114,6 +114,19 @@ void checkViews(const json& description) {
   }
 }
 
+/// A model is one file: data elsewhere would have to be guessed at.
+void checkBuffers(const json& description) {
+  const auto buffers = description.find("buffers");
+  if (buffers == description.end() || !buffers->is_array()) return;
+  for (const json& buffer : *buffers) {
+    if (!buffer.is_object() || !buffer.contains("uri") || !buffer["uri"].is_string()) continue;
+    const auto place = buffer["uri"].get<std::string>();
+    if (!place.starts_with("data:")) {
+      throw ModelError("The model's data lie in another file, " + place.substr(0, 60) + ".");
+    }
+  }
+}
+
 }  // namespace
 
 void checkGlb(std::span<const std::uint8_t> bytes) {
@@ -121,6 +134,7 @@ void checkGlb(std::span<const std::uint8_t> bytes) {
   const json description = parseDescription(checkChunks(bytes.first(wordAt(bytes, 8))));
   checkCounts(description);
   checkExtensions(description);
+  checkBuffers(description);
   checkViews(description);
 }
 

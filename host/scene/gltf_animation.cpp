@@ -59,16 +59,14 @@ double wantedFrameRate(const tinygltf::Model& source, double otherwise) {
 void countFrames(ModelContent& content) {
   double seconds = 0;
   for (const Track& track : content.tracks) seconds = std::max(seconds, static_cast<double>(track.times.back()));
+  if (seconds <= 0) return;  // a pose, no movement
   content.frameRate = std::min(content.frameRate, (mostFrames - 1) / std::max(seconds, 1.0));
   content.frameCount = static_cast<int>(std::lround(seconds * content.frameRate)) + 1;
 }
 
-}  // namespace
-
-void readAnimation(const tinygltf::Model& source, const std::vector<int>& nodeNumbers, ModelContent& content) {
-  content.frameRate = wantedFrameRate(source, content.frameRate);
-  if (source.animations.empty()) return;
-  const tinygltf::Animation& animation = source.animations.front();
+/// What moves something else than nodes leaves no track.
+void readTracks(const tinygltf::Model& source, const tinygltf::Animation& animation,
+                const std::vector<int>& nodeNumbers, ModelContent& content) {
   for (const tinygltf::AnimationChannel& channel : animation.channels) {
     const auto movement = movementOf(channel.target_path);
     if (!movement || channel.target_node < 0) continue;
@@ -78,7 +76,18 @@ void readAnimation(const tinygltf::Model& source, const std::vector<int>& nodeNu
     checkKeys(track);
     if (track.node >= 0 && !track.times.empty()) content.tracks.push_back(std::move(track));
   }
-  if (!content.tracks.empty()) countFrames(content);
+}
+
+}  // namespace
+
+void readAnimation(const tinygltf::Model& source, const std::vector<int>& nodeNumbers, ModelContent& content) {
+  content.frameRate = wantedFrameRate(source, content.frameRate);
+  for (const tinygltf::Animation& animation : source.animations) {
+    readTracks(source, animation, nodeNumbers, content);
+    if (content.tracks.empty()) continue;
+    countFrames(content);
+    return;
+  }
 }
 
 }  // namespace nerida

@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "host/render/tone.h"
+#include "host/scene/gltf_colour.h"
 #include "host/scene/gltf_reader.h"
 #include "host/scene/gltf_values.h"
 #include "host/scene/image_decoder.h"
@@ -57,15 +58,12 @@ class TextureShelf {
   std::vector<std::shared_ptr<const Texture>> decoded;
 };
 
-float share(double value) { return static_cast<float>(std::clamp(value, 0.0, 1.0)); }
-
 Material materialOf(const tinygltf::Material& source, TextureShelf& textures) {
+  const ColourSource colour = colourOf(source);
   Material material;
   material.doubleSided = source.doubleSided;
-  const auto& surface = source.pbrMetallicRoughness;
-  const auto& color = surface.baseColorFactor;
-  if (color.size() >= 3) material.color = {share(color[0]), share(color[1]), share(color[2])};
-  if (surface.baseColorTexture.index >= 0) material.texture = textures.find(surface.baseColorTexture.index);
+  material.color = colour.factor;
+  if (colour.texture >= 0) material.texture = textures.find(colour.texture);
   return material;
 }
 

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "host/scene/gltf_colour.h"
 #include "host/scene/gltf_reader.h"
 #include "host/scene/gltf_values.h"
 
@@ -101,8 +102,7 @@ Surface readSurface(const tinygltf::Model& source, const tinygltf::Primitive& pr
   surface.positions = column<Vec3>(source, positions, 3, count, vec3);
   surface.normals = column<Vec3>(source, attributeOf(primitive, "NORMAL"), 3, count, vec3);
   surface.colors = column<Vec3>(source, attributeOf(primitive, "COLOR_0"), 3, count, vec3);
-  surface.textureCoordinates = column<Vec2>(source, attributeOf(primitive, "TEXCOORD_0"), 2, count,
-                                            [](const Values& v, std::size_t i) { return v.vec2(i); });
+  surface.textureCoordinates = readTextureCoordinates(source, primitive, count);
   surface.pulls = readPulls(source, primitive, count, jointCount);
   surface.triangles = trianglesOf(vertexOrder(source, primitive, count), primitive.mode);
   return surface;

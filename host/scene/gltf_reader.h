@@ -7,8 +7,8 @@
 
 namespace nerida {
 
-/// Takes over what is drawn: the nodes of the scene, their surfaces, materials, skins and the first animation.
-/// Throws ModelError.
+/// Takes over what is drawn: the nodes of the scene, their surfaces, materials, skins and the first animation that
+/// moves them. Throws ModelError.
 ModelContent readContent(const tinygltf::Model& source);
 
 // The steps of it, each filling its part of the content.

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <vector>
 
 #include "host/render/vec.h"
 #include "host/scene/gltf.h"
@@ -15,6 +16,8 @@ class Values {
  public:
   /// `components` = numbers in each value, 1 to 16.
   Values(const tinygltf::Model& model, int accessor, int components);
+  Values(const Values&) = delete;
+  Values& operator=(const Values&) = delete;
 
   [[nodiscard]] std::size_t count() const { return total; }
   [[nodiscard]] float number(std::size_t index, int component) const;
@@ -26,8 +29,13 @@ class Values {
   }
 
  private:
+  Values() = default;
+  /// Points `data` at `total` values of `size` bytes, checked to lie within the file.
+  void look(const tinygltf::Model& model, int bufferView, std::size_t byteOffset, std::size_t size);
+  void mend(const tinygltf::Model& model, const tinygltf::Accessor& accessor, std::size_t size);
   [[nodiscard]] const unsigned char* at(std::size_t index, int component) const;
 
+  std::vector<unsigned char> own;  ///< of sparse data, which lies in several places
   const unsigned char* data = nullptr;
   std::size_t stride = 0, total = 0;
   std::size_t componentSize = 0;

@@ -60,6 +60,16 @@ struct Bounds {
   }
 };
 
+/// Some files hide a part by shrinking it to nothing, far away from all that is seen.
+bool isCollapsed(const Mesh& mesh, const Triangle& triangle) {
+  const auto [a, b, c] = triangle.corners;
+  const auto coincide = [&](std::uint32_t one, std::uint32_t other) {
+    const Vec3 gap = mesh.positions[one] - mesh.positions[other];
+    return dot(gap, gap) <= 0;
+  };
+  return coincide(a, b) && coincide(a, c);
+}
+
 /// The poses that stand for the whole animation when the model is fitted into its sphere.
 template <class Action>
 void forSamplePoses(ModelContent& content, const Affine& root, Action action) {
@@ -69,6 +79,7 @@ void forSamplePoses(ModelContent& content, const Affine& root, Action action) {
     const int frame = poses > 1 ? static_cast<int>(static_cast<std::int64_t>(i) * (frames - 1) / (poses - 1)) : 0;
     pose(content, frame / content.frameRate, root);
     for (const Triangle& triangle : content.mesh.triangles) {
+      if (isCollapsed(content.mesh, triangle)) continue;
       for (const std::uint32_t corner : triangle.corners) action(content.mesh.positions[corner]);
     }
   }

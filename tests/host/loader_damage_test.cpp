@@ -131,11 +131,28 @@ const std::vector<Harm> harms{
      [](auto& f) {
        f.description["nodes"][0]["scale"] = {1e300, 1, 1};
      }},
-    {"sparseData",
+    {"sparseDataElsewhere",
      [](auto& f) {
        f.description["accessors"][0]["sparse"] = {
-           {"count", 1}, {"indices", {{"bufferView", 0}, {"componentType", 5123}}}, {"values", {{"bufferView", 0}}}};
+           {"count", 1}, {"indices", {{"bufferView", 77}, {"componentType", 5123}}}, {"values", {{"bufferView", 0}}}};
      }},
+    {"sparseDataForNobody",
+     [](auto& f) {
+       const int places = f.addIndices({3});
+       f.description["accessors"][0]["sparse"] = {
+           {"count", 1},
+           {"indices", {{"bufferView", f.description["accessors"][places]["bufferView"]}, {"componentType", 5123}}},
+           {"values", {{"bufferView", 0}}}};
+     }},
+    {"sparseDataBeyondTheEnd",
+     [](auto& f) {
+       const int places = f.addIndices({0});
+       f.description["accessors"][0]["sparse"] = {
+           {"count", 4000},
+           {"indices", {{"bufferView", f.description["accessors"][places]["bufferView"]}, {"componentType", 5123}}},
+           {"values", {{"bufferView", 0}}}};
+     }},
+    {"bufferInAnotherFile", [](auto& f) { f.description["buffers"][0]["uri"] = "model.bin"; }},
     {"unreadableExtension", [](auto& f) { f.description["extensionsRequired"] = {"KHR_draco_mesh_compression"}; }},
     {"manyBuffers",
      [](auto& f) {

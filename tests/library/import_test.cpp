@@ -54,7 +54,7 @@ TEST_F(Import, ObjIsCentredAndScaled) {
 TEST_F(Import, ObjWithoutItsMaterialsIsPlainAndSaysSo) {
   const ImportedModel imported = importModel(folder.write("square.obj", squareObj));
   ASSERT_EQ(imported.remarks.size(), 1U);
-  EXPECT_EQ(imported.remarks[0], "the materials square.mtl cannot be found; the model gets a plain colour");
+  EXPECT_EQ(imported.remarks[0], "the materials square.mtl cannot be found; what they describe gets a plain colour");
 }
 
 TEST_F(Import, ObjWithoutNormalsGetsThem) {
@@ -100,6 +100,28 @@ TEST_F(Import, GlbElsewhereIsBroughtIntoTheUnitSphere) {
   const std::string bytes = importModel(folder.write("far.GLB", far)).bytes;
   EXPECT_NEAR(modelOf(bytes).extent().radius, 1, 1e-3);
   EXPECT_NEAR(length(modelOf(bytes).extent().middle), 0, 1e-3);
+}
+
+TEST_F(Import, WhatLiesBehindTheEndOfAGlbIsDropped) {
+  const std::string box =
+      writeGlb(buildModel(readRecipe("model 1 Box\nin C, S\nwords a\nbox 1,2,3 #808080\n", "box", {}), "box"));
+  const std::string far = fittedGlb(box, {{0.5F, -3, 2}, 0.01F});
+  const std::string bytes = importModel(folder.write("far.glb", far + "padding of a careless program")).bytes;
+  EXPECT_EQ(bytes, importModel(folder.write("clean.glb", far)).bytes);
+}
+
+TEST_F(Import, PicturesInOtherFilesAreNamed) {
+  std::string box =
+      writeGlb(buildModel(readRecipe("model 1 Box\nin C, S\nwords a\nbox 1,2,3 #808080\n", "box", {}), "box"));
+  const std::size_t at = box.find(R"("asset":{)");
+  ASSERT_NE(at, std::string::npos);
+  const std::size_t size = box.find("}", at) + 1 - at;
+  std::string asset = R"("asset":{"version":"2.0"},"images":[{"uri":"a"}])";
+  ASSERT_LE(asset.size(), size);
+  asset.resize(size, ' ');
+  box.replace(at, size, asset);
+  EXPECT_EQ(importModel(folder.write("box.glb", box)).remarks,
+            std::vector<std::string>{"the picture a lies in another file; its colour is left out"});
 }
 
 TEST_F(Import, AnimationIsNoticed) {
