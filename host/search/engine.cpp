@@ -1,10 +1,8 @@
 #include "host/search/engine.h"
 
-#include <algorithm>
-#include <tuple>
-
 #include "host/search/database.h"
 #include "host/search/random_numbers.h"
+#include "host/search/ranked_hits.h"
 #include "host/search/relevance.h"
 #include "host/search/schema.h"
 #include "host/search/thesaurus.h"
@@ -14,39 +12,10 @@
 namespace nerida::search {
 namespace {
 
-/// A hit with what decides its place in the list.
-struct RankedHit {
-  Rank rank;
-  std::ptrdiff_t words;  ///< in the name
-  std::string orderName;
-  Hit hit;
-};
-
 // The columns are number, name, flags.
 Hit hitOf(Statement& row) {
   return {static_cast<std::int32_t>(row.number(0)), std::string(row.text(1)), static_cast<std::int32_t>(row.number(2)),
           Closeness::exact};
-}
-
-// Followed by order_name and the rank.
-RankedHit rankedHitOf(Statement& row) {
-  RankedHit result{Relevance::rankOf(row.number(4)), 0, std::string(row.text(3)), hitOf(row)};
-  result.words = std::ranges::count(result.orderName, ' ');
-  result.hit.closeness = result.rank.closeness;
-  return result;
-}
-
-bool comesBefore(const RankedHit& one, const RankedHit& other) {
-  return std::tie(one.rank, one.words, one.orderName, one.hit.name, one.hit.number) <
-         std::tie(other.rank, other.words, other.orderName, other.hit.name, other.hit.number);
-}
-
-std::vector<Hit> bestFirst(std::vector<RankedHit> ranked) {
-  std::ranges::sort(ranked, comesBefore);
-  std::vector<Hit> hits;
-  hits.reserve(ranked.size());
-  for (RankedHit& one : ranked) hits.push_back(std::move(one.hit));
-  return hits;
 }
 
 Database openOurs(const std::filesystem::path& file) {
@@ -86,9 +55,9 @@ std::vector<Hit> SearchEngine::searchKeywords(std::string_view text) {
                 "SELECT number, model.name, flags, order_name, relevance(words) FROM words "
                 "JOIN model ON model.number = words.rowid WHERE words MATCH ?");
   row.bind(1, wanted);
-  std::vector<RankedHit> hits;
-  while (row.step()) hits.push_back(rankedHitOf(row));
-  return bestFirst(std::move(hits));
+  RankedHits hits;
+  while (row.step()) hits.add(Relevance::rankOf(row.number(4)), row.text(3), hitOf(row));
+  return hits.take();
 }
 
 std::vector<Hit> SearchEngine::searchRandom(std::size_t count) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <cstdint>
 #include <vector>
 
 namespace nerida::search {
@@ -19,10 +20,23 @@ bool continues(std::string_view text, std::size_t start, std::size_t count) {
                              [](char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; });
 }
 
+/// One bit for each letter, or for several that are rarely in one word.
+std::uint64_t lettersOf(std::u32string_view word) {
+  std::uint64_t letters = 0;
+  for (const char32_t letter : word) letters |= std::uint64_t{1} << (letter % 64);
+  return letters;
+}
+
+/// Most words have quite other letters than the one that is looked for; a slip changes two of them at most. This is
+/// told much sooner than how they differ.
+bool lettersDiffer(std::u32string_view one, std::u32string_view other, std::size_t limit) {
+  return static_cast<std::size_t>(std::popcount(lettersOf(one) ^ lettersOf(other))) > 2 * limit;
+}
+
 }  // namespace
 
-std::u32string characters(std::string_view text) {
-  std::u32string result;
+void takeCharacters(std::string_view text, std::u32string& characters) {
+  characters.clear();
   for (std::size_t i = 0; i < text.size(); ++i) {
     const auto lead = static_cast<unsigned char>(text[i]);
     const std::size_t count = following(lead);
@@ -32,15 +46,20 @@ std::u32string characters(std::string_view text) {
       for (std::size_t k = 0; k < count; ++k)
         character = (character << 6) | (static_cast<unsigned char>(text[++i]) & 0x3F);
     }
-    result += character;
+    characters += character;
   }
+}
+
+std::u32string characters(std::string_view text) {
+  std::u32string result;
+  takeCharacters(text, result);
   return result;
 }
 
 // The table of all beginnings' distances, of which the last three rows are kept.
 std::size_t slipsBetween(std::u32string_view one, std::u32string_view other, std::size_t limit) {
   const std::size_t difference = std::max(one.size(), other.size()) - std::min(one.size(), other.size());
-  if (difference > limit) return limit + 1;
+  if (difference > limit || lettersDiffer(one, other, limit)) return limit + 1;
   std::array<std::vector<std::size_t>, 3> rows;
   for (auto& row : rows) row.resize(other.size() + 1);
   for (std::size_t j = 0; j <= other.size(); ++j) rows[0][j] = j;

@@ -8,6 +8,8 @@ namespace nerida::search {
 
 /// The characters of a UTF-8 text; bytes that are no UTF-8 stand for themselves.
 std::u32string characters(std::string_view text);
+/// The same into a text that is used again and again.
+void takeCharacters(std::string_view text, std::u32string& characters);
 
 /// By how many slips of the finger (a letter too many, too few, wrong, or two neighbours swapped) two words differ;
 /// anything above `limit` when there are more.

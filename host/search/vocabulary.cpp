@@ -30,7 +30,7 @@ class Nearest {
   void offer(std::string_view word, std::int64_t models) {
     // Four bytes are the most that a letter has: a cheap test that spares most words the expensive one.
     if (word.size() > 4 * (wanted.size() + limit) || word.size() + limit < wanted.size()) return;
-    const std::u32string letters = characters(word);
+    takeCharacters(word, letters);
     const std::size_t slips = slipsBetween(wanted, letters, limit);
     if (slips > limit || letters.empty()) return;
     if (slips < limit) {
@@ -53,7 +53,7 @@ class Nearest {
   }
 
  private:
-  std::u32string wanted;
+  std::u32string wanted, letters;
   std::size_t limit;
   std::vector<Guess> guesses;
 };
