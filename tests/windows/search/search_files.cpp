@@ -101,6 +101,26 @@ void SearchFiles::write(const char* name, const std::string& bytes) const {
   std::ofstream(folder / name, std::ios::binary) << bytes;
 }
 
+UserThesaurus::UserThesaurus(const std::string& text) {
+  wchar_t folder[MAX_PATH] = {};
+  if (GetEnvironmentVariableW(L"APPDATA", folder, MAX_PATH) == 0) throw std::runtime_error("there is no APPDATA");
+  file = fs::path(folder) / "Zephra" / "Thesaurus.txt";
+  before = file;
+  before += ".before";
+  std::error_code none;
+  fs::create_directories(file.parent_path());
+  fs::rename(file, before, none);
+  write(text);
+}
+
+UserThesaurus::~UserThesaurus() {
+  std::error_code ignored;
+  fs::remove(file, ignored);
+  fs::rename(before, file, ignored);
+}
+
+void UserThesaurus::write(const std::string& text) const { std::ofstream(file, std::ios::binary) << text; }
+
 Module::Module(const fs::path& file) : module(LoadLibraryExW(file.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH)) {
   if (module == nullptr) throw std::runtime_error(file.string() + " cannot be loaded");
 }

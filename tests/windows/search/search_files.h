@@ -34,6 +34,20 @@ class SearchFiles {
   std::vector<std::pair<std::wstring, std::wstring>> before;
 };
 
+/// The thesaurus in the user's own folder. One that was there before comes back in the end.
+class UserThesaurus {
+ public:
+  explicit UserThesaurus(const std::string& text);
+  UserThesaurus(const UserThesaurus&) = delete;
+  UserThesaurus& operator=(const UserThesaurus&) = delete;
+  ~UserThesaurus();
+
+  void write(const std::string& text) const;
+
+ private:
+  std::filesystem::path file, before;
+};
+
 /// What SearchFiles holds when nothing else is asked for.
 const std::vector<search::ModelCard>& usualCards();
 
