@@ -33,6 +33,15 @@ void Control::hide() {
   require(SUCCEEDED(control->ToolbarHide(&result)) && result == 0, "the toolbar hides");
 }
 
+HWND Control::showCatalog() const {
+  LONG handle = -1;
+  require(SUCCEEDED(control->ShowCatalog(&handle)) && handle > 0, "the catalog shows");
+  const HWND form = reinterpret_cast<HWND>(static_cast<LONG_PTR>(handle));
+  pumpMessages();
+  paintNow(form);
+  return form;
+}
+
 void paintNow(HWND window) {
   require(IsWindowVisible(window), "the window is on the screen");
   RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ERASENOW | RDW_ALLCHILDREN);

@@ -47,6 +47,8 @@ class Control {
 
   void show();
   void hide();
+  /// The catalog's window, shown.
+  HWND showCatalog() const;
   HWND window() const { return toolbar; }
 
  private:

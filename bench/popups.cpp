@@ -176,8 +176,8 @@ void colorChoices() {
   std::printf("choice.palette %.3f\nchoice.bare %.3f\n", middle(chosen), middle(bare));
 }
 
-void popupCycles(const std::filesystem::path& animatedModel) {
-  constexpr int warmUp = 50, cycles = 1000;
+void popupCycles(const std::filesystem::path& animatedModel, int cycles) {
+  constexpr int warmUp = 50;
   Model model;
   model.open(animatedModel);
   require(model.setLookStyle(styleWithAll), "the model has the style");
@@ -194,6 +194,7 @@ void popupCycles(const std::filesystem::path& animatedModel) {
   const Resources before = held();
   cycle(cycles);
   print("popups", held() - before);
+  std::printf("popups.cycles %d\n", cycles);
 }
 
 }  // namespace nerida::bench
