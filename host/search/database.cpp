@@ -62,8 +62,7 @@ Database::Database(const std::filesystem::path& file, int flags) : file(file) {
 Database Database::open(const std::filesystem::path& file) {
   if (isAbsent(file)) throw errorAbout(DatabaseFault::missing, file, "");
   Database database(file, SQLITE_OPEN_READWRITE);
-  // A frequent word leads all over the file: what was read once shall not be read again.
-  database.run("PRAGMA cell_size_check = ON; PRAGMA cache_size = -32768");
+  database.run("PRAGMA cell_size_check = ON");
   return database;
 }
 
