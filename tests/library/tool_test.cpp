@@ -6,10 +6,13 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
+#include <future>
 #include <set>
 
 #include "host/library/library_editor.h"
+#include "host/search/engine.h"
 #include "host/search/model_database.h"
 #include "tests/library/folder.h"
 
@@ -125,6 +128,34 @@ TEST_F(Tool, KilledAnywhereItLeavesALibraryThatIsWhole) {
     addAndKill((folder.path() / "box.obj").string(), places().models.string(), 4000 * i);
     ASSERT_EQ(run("check" + library()), 0) << "killed after " << 4 * i << " ms";
   }
+}
+
+TEST_F(Tool, SeveralAtOnceWaitForEachOtherWhileSomebodySearches) {
+  ASSERT_EQ(run("add " + obj() + library()), 0);
+  constexpr int tools = 3, models = 6;
+  std::vector<std::future<int>> running;
+  for (int i = 0; i < tools; ++i) {
+    running.push_back(std::async(std::launch::async, [this] {
+      int failures = 0;
+      for (int added = 0; added < models; ++added) failures += run("add " + obj() + library()) == 0 ? 0 : 1;
+      return failures;
+    }));
+  }
+  const auto isDone = [](const std::future<int>& tool) {
+    return tool.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+  };
+  std::size_t searches = 0, last = 1;
+  while (!std::ranges::all_of(running, isDone)) {
+    search::SearchEngine engine({folder.path() / search::databaseFileName, {}, {}});
+    const std::size_t found = engine.searchKeywords("box").size();
+    EXPECT_GE(found, last) << "a search saw a library that never was";
+    last = found;
+    ++searches;
+  }
+  EXPECT_GT(searches, 0U);
+  for (std::future<int>& tool : running) EXPECT_EQ(tool.get(), 0);
+  EXPECT_EQ(search::readDatabase(folder.path()).size(), 1U + tools * models);
+  EXPECT_EQ(run("check" + library()), 0);
 }
 
 }  // namespace
