@@ -12,24 +12,24 @@
 namespace nerida::bench {
 namespace {
 
-/// The first window of that class below a form; `which` counts on from there.
-HWND partOf(HWND form, const wchar_t* className, int which = 0) {
-  struct Wanted {
-    const wchar_t* className;
-    int left;
-    HWND found;
-  } wanted{className, which, nullptr};
-  EnumChildWindows(
-      form,
-      [](HWND window, LPARAM parameter) -> BOOL {
-        auto& sought = *reinterpret_cast<Wanted*>(parameter);
-        wchar_t name[64] = {};
-        GetClassNameW(window, name, 64);
-        if (lstrcmpiW(name, sought.className) != 0 || sought.left-- > 0) return TRUE;
-        sought.found = window;
-        return FALSE;
-      },
-      reinterpret_cast<LPARAM>(&wanted));
+struct Wanted {
+  const wchar_t* className;
+  HWND found = nullptr;
+};
+
+BOOL CALLBACK takeIfWanted(HWND window, LPARAM parameter) {
+  auto& wanted = *reinterpret_cast<Wanted*>(parameter);
+  wchar_t name[64] = {};
+  GetClassNameW(window, name, 64);
+  if (lstrcmpiW(name, wanted.className) != 0) return TRUE;
+  wanted.found = window;
+  return FALSE;
+}
+
+/// The first window of that class below a form.
+HWND partOf(HWND form, const wchar_t* className) {
+  Wanted wanted{className};
+  EnumChildWindows(form, takeIfWanted, reinterpret_cast<LPARAM>(&wanted));
   require(wanted.found != nullptr, "the catalog has all of its parts");
   return wanted.found;
 }
