@@ -45,7 +45,7 @@ class Catalog {
   double search() const {
     const HWND box = partOf(form, L"EDIT");
     const double start = now();
-    SendMessageW(box, WM_CHAR, VK_RETURN, 0);
+    SendMessageW(box, WM_KEYDOWN, VK_RETURN, 0);
     paintNow(list);
     const double taken = now() - start;
     pumpMessages();
