@@ -121,6 +121,7 @@ void longLists() {
   catalog.search();
   require(catalog.hits() == mostHits, "all models are found");
   std::vector<std::wstring> texts;
+  texts.reserve(mostHits);
   for (int i = 0; i < mostHits; ++i) texts.push_back(catalog.textOf(i));
   RECT place = {};
   GetWindowRect(catalog.listWindow(), &place);

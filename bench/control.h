@@ -14,7 +14,7 @@ namespace nerida::bench {
 class Model : public host::ModelSite, public host::CallListener {
  public:
   Model() : object(*this), dispatch(new host::ModelDispatch(object, *this)) {}
-  ~Model() { dispatch->Release(); }
+  ~Model() override { dispatch->Release(); }
   Model(const Model&) = delete;
   Model& operator=(const Model&) = delete;
 
