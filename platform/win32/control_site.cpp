@@ -158,6 +158,13 @@ HostedControl::~HostedControl() {
   site->leave();
 }
 
+HWND HostedControl::window() const {
+  ComPtr<IOleInPlaceObject> placed;
+  HWND window = nullptr;
+  if (FAILED(control->QueryInterface(IID_IOleInPlaceObject, placed.putVoid()))) return nullptr;
+  return SUCCEEDED(placed->GetWindow(&window)) ? window : nullptr;
+}
+
 void HostedControl::place(const RECT& area) {
   site->moveTo(area);
   SIZEL extent = himetricOf(area);

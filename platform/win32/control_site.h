@@ -20,6 +20,7 @@ class HostedControl {
 
   void place(const RECT& area);  // in the parent's client area
   ComPtr<IDispatch> dispatch() const { return automation; }
+  HWND window() const;  // of the control, null while it has none
 
  private:
   class Site;

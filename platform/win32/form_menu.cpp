@@ -8,13 +8,24 @@
 namespace nerida {
 namespace {
 
+constexpr std::size_t longestCaption = 80;  // a wider menu would cover the screen, or reach beyond it
+constexpr wchar_t ellipsis = L'\x2026';
+constexpr bool isFirstOfPair(wchar_t unit) { return (unit & 0xFC00) == 0xD800; }
+
+std::wstring shortened(std::wstring caption) {
+  if (caption.size() <= longestCaption) return caption;
+  caption.resize(longestCaption - 1);
+  if (isFirstOfPair(caption.back())) caption.pop_back();
+  return caption + ellipsis;
+}
+
 // A caption that the program set is shown as it is; the system would take marks and columns from it.
 std::wstring shownCaption(const MenuEntry& entry) {
   std::wstring caption = wide(entry.caption);
   if (entry.isDesigned) return caption;
   std::wstring shown;
-  for (const wchar_t character : caption) {
-    shown += character == L'\t' ? L' ' : character;
+  for (const wchar_t character : shortened(caption)) {
+    shown += character < L' ' ? L' ' : character;
     if (character == L'&') shown += L'&';
   }
   return shown;

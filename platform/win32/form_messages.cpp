@@ -262,9 +262,12 @@ void FormWindow::pointerLeft() {
   raise(mouseLeft);
 }
 
+// A control may have windows of its own, which come and go.
 void FormWindow::rememberFocus() {
-  const HWND focus = GetFocus();
-  if (IsChild(hwnd, focus)) lastFocus = focus;
+  HWND focus = GetFocus();
+  if (!IsChild(hwnd, focus)) return;
+  while (GetParent(focus) != hwnd) focus = GetParent(focus);
+  lastFocus = focus;
 }
 
 }  // namespace nerida

@@ -10,10 +10,12 @@
 namespace nerida {
 
 // The preview control, looked up by its name in the registry and driven by its members' names. It is made when it is
-// first asked for something.
+// first asked for something. The keyboard comes to the control's own window and, being moved on there, back to the form:
+// the loop that dispatches our messages knows nothing of either.
 class SystemPreview final : public ControlOf<Preview> {
  public:
   SystemPreview(FormWindow& owner, const ControlLayout& row);
+  ~SystemPreview() override;
 
   std::string modelFile() override { return toText(object()->get("ModelFile")); }
   void setModelFile(const std::string& path) override { object()->let("ModelFile", path); }
@@ -28,9 +30,17 @@ class SystemPreview final : public ControlOf<Preview> {
   ObjectRef object();
   RECT inside() const;
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+  bool takesFocus() const override;
   void paintOn(HDC target) const;
 
+  // In front of the control's window.
+  static LRESULT CALLBACK watchedProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  void watch(HWND window);
+  void stopWatching();
+
   std::optional<HostedControl> control;
+  HWND watched = nullptr;
+  WNDPROC behind = nullptr;
 };
 
 }  // namespace nerida

@@ -11,6 +11,35 @@ namespace {
 
 using Texts = std::vector<std::wstring>;
 
+constexpr LONG windmill = 3310;
+constexpr LONG sailboat = 2105;
+constexpr LONG nobodysNumber = 9999;
+constexpr LONG animated = 0x20;
+
+struct Answer {
+  Texts names;
+  std::vector<LONG> numbers;
+  std::vector<LONG> flags;
+};
+
+Answer repeated(std::size_t count) {
+  return {Texts(count, L"Windmill"), std::vector<LONG>(count, windmill), std::vector<LONG>(count, 0)};
+}
+
+Answer answerTo(const std::wstring& query) {
+  if (query == L"nothing" || query == L"rewrite") return {};
+  if (query == L"all") return repeated(32767);
+  if (query == L"too many") return repeated(32768);
+  if (query == L"odd") {
+    return {{L"100 % \"Salt & Pepper\"", L"M\u00FChle \u98A8\u8ECA", std::wstring(300, L'w'), L"&File\tOpen"},
+            {windmill, sailboat, windmill, sailboat},
+            {animated, 0, 0, animated}};
+  }
+  return {{L"Windmill", L"Sailboat", L"No such file"}, {windmill, sailboat, nobodysNumber}, {0, animated, 0}};
+}
+
+bool categoriesFail() { return GetEnvironmentVariableW(L"PREPARED_SEARCH_REFUSES", nullptr, 0) != 0; }
+
 SAFEARRAY* arrayOf(const Texts& texts) {
   SAFEARRAY* array = SafeArrayCreateVector(VT_BSTR, 0, static_cast<ULONG>(texts.size()));
   for (LONG i = 0; i < static_cast<LONG>(texts.size()); ++i) {
@@ -75,27 +104,19 @@ class PreparedSearch final : public SearchInterface, public ISupportErrorInfo {
     const std::wstring asked(*query, SysStringLen(*query));
     if (asked == L"refuse") return refuse();
     if (asked == L"fail") return E_OUTOFMEMORY;
-    Texts found = {L"Windmill", L"Sailboat", L"No such file"};
-    std::vector<LONG> numbers = {3310, 2105, 9999};
-    std::vector<LONG> bits = {0, 0x20, 0};
-    if (asked == L"nothing" || asked == L"rewrite") found.clear();
     if (asked == L"rewrite") SysReAllocString(query, L"rewritten");
-    if (asked == L"all" || asked == L"too many") {
-      const std::size_t many = asked == L"all" ? 32767 : 32768;
-      found.assign(many, L"Windmill");
-      numbers.assign(many, 3310);
-      bits.assign(many, 0);
-    }
-    *count = static_cast<LONG>(found.size()) + (asked == L"short" ? 1 : 0);
-    *names = arrayOf(found);
-    *ids = arrayOf(numbers, VT_I4);
-    *flags = arrayOf(bits, VT_I4);
+    const Answer answer = answerTo(asked);
+    *count = static_cast<LONG>(answer.names.size()) + (asked == L"short" ? 1 : 0);
+    *names = arrayOf(answer.names);
+    *ids = arrayOf(answer.numbers, VT_I4);
+    *flags = arrayOf(answer.flags, VT_I4);
     return S_OK;
   }
 
   STDMETHODIMP unused() override { return E_NOTIMPL; }
 
   STDMETHODIMP GetCategories(SAFEARRAY** names, SAFEARRAY** subNames, SAFEARRAY** subCounts, LONG* last) override {
+    if (categoriesFail()) return refuse();
     *names = arrayOf({L"Buildings", L"Vehicles", L"Nothing"});
     *subNames = arrayOf({L"Mills", L"Salt & Pepper", L"Boats"});
     *subCounts = arrayOf(std::vector<SHORT>{2, 1, 0}, VT_I2);

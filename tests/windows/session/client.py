@@ -90,4 +90,5 @@ class Client:
             except (TimeoutError, RuntimeError):
                 self.process.kill()
         self.process.wait(timeout=20)
+        self.process.stdout.close()
         self.folder.cleanup()

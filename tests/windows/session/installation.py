@@ -1,25 +1,89 @@
-"""The control and its installation keys in the Wine prefix."""
+"""The control, what it works with, and its installation keys in the Wine prefix."""
 
+import contextlib
+import os
 import subprocess
+from pathlib import Path
 
 from tools.session.probe import windows_path
 
 KEY = r"HKLM\Software\Tarnwell\Zephra"
+VERSION_KEY = KEY + r"\1.0"
 SEARCHES = r"HKCU\Software\VB and VBA Program Settings\Zephra\Browser"
+BROWSER = r"HKLM\Software\Classes\https\shell\open\command"
+DRIVES = r"HKLM\Software\Wine\Drives"
 
 
-def _wine(*words):
-    subprocess.run(["wine", *words], check=True, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+def _wine(*words, check=True):
+    subprocess.run(["wine", *words], check=check, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
                    stderr=subprocess.DEVNULL)
 
 
-def set_value(name, text, key=KEY):
-    _wine("reg", "add", key, "/v", name, "/t", "REG_SZ", "/d", text, "/f", "/reg:32")
+def set_value(name, text, key=KEY, kind="REG_SZ"):
+    _wine("reg", "add", key, "/v", name, "/t", kind, "/d", text, "/f", "/reg:32")
 
 
-def register(control, arch):
+def remove_value(name, key=KEY):
+    _wine("reg", "delete", key, "/v", name, "/f", "/reg:32")
+
+
+def remove_key(key):
+    _wine("reg", "delete", key, "/f", "/reg:32", check=False)  # it may be gone already
+
+
+def register(control, arch, *options):
     folder = "syswow64" if arch == "x86" else "system32"
-    _wine(rf"C:\windows\{folder}\regsvr32.exe", "/s", windows_path(control))
+    _wine(rf"C:\windows\{folder}\regsvr32.exe", "/s", *options, windows_path(control))
+
+
+@contextlib.contextmanager
+def without(control, arch):
+    """As long as the component is not installed."""
+    register(control, arch, "/u")
+    try:
+        yield
+    finally:
+        register(control, arch)
+
+
+@contextlib.contextmanager
+def without_browser():
+    """As long as pages on the web cannot be opened."""
+    views = ("/reg:32", "/reg:64")
+    done = subprocess.run(["wine", "reg", "query", BROWSER, "/ve"], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                          stderr=subprocess.DEVNULL, text=True, check=True)
+    command = done.stdout.split("REG_SZ", 1)[1].strip()
+    for view in views:
+        _wine("reg", "add", BROWSER, "/ve", "/d", r"C:\nobody.exe", "/f", view)
+    try:
+        yield
+    finally:
+        for view in views:
+            _wine("reg", "add", BROWSER, "/ve", "/d", command, "/f", view)
+
+
+@contextlib.contextmanager
+def discs(**folders):
+    """CD-ROM drives with these folders in them. The desktop starts anew: it looks for its drives only then."""
+    devices = Path(os.environ["WINEPREFIX"]) / "dosdevices"
+    for letter, folder in folders.items():
+        (devices / f"{letter}:").symlink_to(folder)
+        _wine("reg", "add", DRIVES, "/v", f"{letter}:", "/d", "cdrom", "/f", "/reg:64")
+    restart()
+    try:
+        yield
+    finally:
+        for letter in folders:
+            (devices / f"{letter}:").unlink()
+            _wine("reg", "delete", DRIVES, "/v", f"{letter}:", "/f", "/reg:64")
+        restart()
+
+
+def restart():
+    for option in ("-k", "-w", "-p"):
+        subprocess.run(["wineserver", option], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                       stderr=subprocess.DEVNULL, check=False)
+    _wine("cmd", "/c", "exit")
 
 
 def forget_searches():
@@ -33,4 +97,4 @@ def set_paths(resources, models):
     for name in ("Dictionary", "System", "Help", "Styles"):
         set_value(name, windows_path(resources))
     set_value("LiveText", "Zephra 1.0")
-    set_value("Models", windows_path(models), KEY + r"\1.0")
+    set_value("Models", windows_path(models), VERSION_KEY)

@@ -27,11 +27,13 @@ def main():
     programs.control = options.build / "activex" / "ActiveNeridaToolbar.ocx"
     programs.resources = options.build / "assets"
     programs.script_host = options.build / "tests" / "windows" / "com" / "script_host.exe"
+    programs.search = options.build / "tests" / "windows" / "catalog" / "prepared_search.dll"
+    programs.preview = options.build / "host" / "preview" / "ZephraPreview.ocx"
     programs.host = options.build / "host" / "app" / "zephra-host.exe"
     programs.models = options.models
     installation.register(programs.control, programs.arch)
-    installation.register(options.build / "tests" / "windows" / "catalog" / "prepared_search.dll", programs.arch)
-    installation.register(options.build / "host" / "preview" / "ZephraPreview.ocx", programs.arch)
+    installation.register(programs.search, programs.arch)
+    installation.register(programs.preview, programs.arch)
     installation.set_paths(programs.resources, programs.models)
     unittest.main(argv=[sys.argv[0], *rest], verbosity=2)
 
@@ -45,13 +47,18 @@ class SessionCase(unittest.TestCase):
     def setUpClass(cls):
         cls.probe = Probe()
         cls.addClassCleanup(cls.probe.close)
-        cls.client = Client(programs.script_host)
+        cls.client = cls.create_client()
         cls.addClassCleanup(lambda: cls.client.close())  # a test may have started another one
-        cls.client.do("create")
         cls.client.set(**cls.fields)
         cls.client.do("init", 0)
         cls.client.do("show", 300, 300)
         cls.toolbar = cls.probe.window("Zephra Toolbar: ")
+
+    @classmethod
+    def create_client(cls):
+        client = Client(programs.script_host)
+        client.do("create")
+        return client
 
     def setUp(self):
         self.client.forget()
