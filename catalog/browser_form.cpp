@@ -61,7 +61,9 @@ void frmBrowser::ShowSelf() {
     ignoringErrors([this] { model.setIsCatalogShowing(false); });
     ignoringErrors([this] { model.setDoneShowingModelCatalog(); });
   };
+  const int binding = state.bindings;
   trap([this] { load(); }, report);
+  if (state.bindings != binding) unload();  // disposed of while a message of the load was waiting for its user
   if (isLoaded()) handleWith(report, [this] { show(); });
 }
 

@@ -48,8 +48,8 @@ bool SystemPreview::takesFocus() const {
 void SystemPreview::watch(HWND window) {
   if (window == nullptr || !SetPropW(window, watcherName, this)) return;
   watched = window;
-  behind = reinterpret_cast<WNDPROC>(
-      SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(watchedProcedure)));
+  behind =
+      reinterpret_cast<WNDPROC>(SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(watchedProcedure)));
 }
 
 void SystemPreview::stopWatching() {

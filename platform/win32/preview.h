@@ -10,8 +10,8 @@
 namespace nerida {
 
 // The preview control, looked up by its name in the registry and driven by its members' names. It is made when it is
-// first asked for something. The keyboard comes to the control's own window and, being moved on there, back to the form:
-// the loop that dispatches our messages knows nothing of either.
+// first asked for something. The keyboard goes to the control's own window and, moved on there, back to the form: the
+// loop that dispatches our messages knows nothing of either.
 class SystemPreview final : public ControlOf<Preview> {
  public:
   SystemPreview(FormWindow& owner, const ControlLayout& row);

@@ -43,6 +43,7 @@ PromptAnswer SystemPrompts::messageBox(const std::string& text, PromptButtons bu
   const ModuleLock lock;
   const std::wstring caption = wide(title.empty() ? libraryName : title);
   const int answer = MessageBoxW(GetActiveWindow(), wide(text).c_str(), caption.c_str(), boxStyle(buttons));
+  noteActivePopupHides();
   if (answer == IDRETRY) return PromptAnswer::retry;
   return buttons == PromptButtons::ok ? PromptAnswer::ok : PromptAnswer::cancel;
 }

@@ -104,6 +104,39 @@ TEST_F(CatalogLoad, ACatalogWhoseLogoIsMissingStillSearches) {
   EXPECT_EQ(hits().count(), 2);
 }
 
+class CatalogSecondLoad : public CatalogTest {
+ protected:
+  void SetUp() override {
+    open();
+    control->ToolbarDispose();
+    init();
+  }
+};
+
+TEST_F(CatalogSecondLoad, AnswersItsUserAgain) {
+  control->ShowCatalog();
+  searchBox().enter("mill");
+  EXPECT_EQ(hits().count(), 2);
+  catalog().pushButton("cmdInsert", 0).press();
+  EXPECT_EQ(take().back(), "model: RefreshDisplay");
+}
+
+TEST_F(CatalogSecondLoad, DoesNotShowALogoThatHasGone) {
+  platform.files.files.erase("C:\\Zephra\\zpcatbut.bmp");
+  answerBoxes(1);
+  control->ShowCatalog();
+  EXPECT_EQ(catalog().stillPicture("picLogo").picture, nullptr);
+}
+
+TEST_F(CatalogSecondLoad, GoesWhenItIsDisposedOfUnderItsOwnMessage) {
+  platform.files.files.erase("C:\\Zephra\\zpcatbut.bmp");
+  platform.boxes.duringBox = [this] { control->ToolbarDispose(); };
+  answerBoxes(1);
+  EXPECT_EQ(control->ShowCatalog(), -1);
+  EXPECT_FALSE(library.state.gFormLoaded[catalogIndex]);
+  EXPECT_TRUE(platform.windows.living.empty());
+}
+
 class CatalogShow : public CatalogTest {};
 
 TEST_F(CatalogShow, AgainWhileItIsShownKeepsTheSearchBox) {

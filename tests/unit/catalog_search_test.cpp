@@ -283,6 +283,11 @@ TEST_F(CatalogOnCd, WithoutTheCdNothingIsSearchedButTheTextIsRemembered) {
   EXPECT_EQ(searchBox().content, ":Surprise Me");
 }
 
+TEST_F(CatalogOnCd, AnEmptyBoxDoesNotAskForTheCd) {
+  searchBox().enter("");
+  EXPECT_THAT(take(), IsEmpty());
+}
+
 TEST_F(CatalogSearch, AFormThatGoesUnderAMessageIsNotTouchedAgain) {
   platform.search.installed = false;
   platform.boxes.duringBox = [this] { control->ToolbarDispose(); };

@@ -173,7 +173,13 @@ class Catalog(CatalogCase):
 
 
 class Failures(CatalogCase):
-    """What a search component that fails or answers wrongly comes to."""
+    """What a search component that fails or answers wrongly comes to, and pages that cannot be opened."""
+
+    @classmethod
+    def setUpClass(cls):
+        installation.set_value("Expansion", "1")
+        cls.addClassCleanup(installation.remove_value, "Expansion")
+        super().setUpClass()
 
     def test_its_error_is_told(self):
         for query, text in (("refuse", "The database is locked."), ("fail", "Out of memory"),
