@@ -128,6 +128,11 @@ TEST_F(CatalogInsertion, SendsTheStylesNameAsItIs) {
   EXPECT_EQ(press(2), followedBy(insertion, {"model: LookStyle = \"none\"", "model: RefreshDisplay"}));
 }
 
+TEST_F(CatalogInsertion, IsNamedInTheMenu) {
+  EXPECT_EQ(menu().caption("mnuInsert", 0), "&Insert");
+  EXPECT_EQ(menu().caption("mnuInsertModel", 0), "Insert &Model Only");
+}
+
 TEST_F(CatalogInsertion, LeavesTheCatalogOpen) {
   press(2);
   EXPECT_TRUE(control->IsCatalogVisible());

@@ -37,7 +37,11 @@ class CatalogCase(SessionCase):
         wait_for(lambda: name in self.names(), timeout, f"{name!r} in the catalog")
 
     def wait_for_field(self, text):
-        wait_for(lambda: self.element(FIELD)["value"] == text, what=f"{text!r} in the search box")
+        wait_for(lambda: self.field() == text, what=f"{text!r} in the search box")
+
+    def field(self):
+        """What stands in the search box."""
+        return next(e["value"] for e in self.probe.elements(self.catalog) if e["name"] == FIELD)
 
     def press(self, name):
         desktop.click(desktop.centre(self.element(name)["rect"]))
@@ -85,6 +89,8 @@ class CatalogCase(SessionCase):
 def read_box(probe, *keys):
     box = probe.window(class_name="#32770")
     texts = [e["name"] for e in probe.elements(box) if e["class"] == "Static" and e["name"]]
+    wait_for(lambda: probe.ask("foreground") == box["window"] and desktop.focused_title() == box["title"],
+             what="the keyboard in the box")
     desktop.key(*(keys or ("Return",)))
     wait_for(lambda: box["window"] not in [w["window"] for w in probe.windows(class_name="#32770")],
              what="the answered box to go")
