@@ -218,7 +218,7 @@ void FormWindow::showTopmost() {
 void FormWindow::hide() {
   if (hwnd == nullptr) return;
   const Use use(*this);
-  if (frame == FormFrame::popup && GetActiveWindow() == hwnd) noteActivePopupHides();
+  if ((frame == FormFrame::popup || modal) && GetActiveWindow() == hwnd) noteActivePopupHides();
   if (menuOpen) EndMenu();
   if (tips) tips->hide();
   closeDialogsOf(hwnd);

@@ -26,7 +26,7 @@ class ModuleLock {
 // time the system still lets us take the foreground back, which the user does not want.
 bool applicationIsLosingFocus();
 
-// The active window, a popup or a message box, goes; and how many milliseconds ago that was.
+// The active window, a popup or what waits for an answer, goes; and how many milliseconds ago that was.
 void noteActivePopupHides();
 std::optional<DWORD> sinceActivePopupHid();
 
