@@ -26,6 +26,8 @@ Span spanOf(int pixel, int targetSize, int sourceSize) {
   return {pixel * step, (pixel + 1) * step};
 }
 
+std::uint32_t rounded(double value) { return static_cast<std::uint32_t>(std::lround(value)); }
+
 std::uint32_t average(const Picture& picture, const Span& across, const Span& down) {
   std::array<double, channels> sums = {};
   double total = 0;
@@ -38,7 +40,7 @@ std::uint32_t average(const Picture& picture, const Span& across, const Span& do
     }
   }
   std::uint32_t mixed = 0;
-  for (int i = 0; i < channels; ++i) mixed |= static_cast<std::uint32_t>(sums[i] / total + 0.5) << (i * bitsOfChannel);
+  for (int i = 0; i < channels; ++i) mixed |= rounded(sums[i] / total) << (i * bitsOfChannel);
   return mixed;
 }
 

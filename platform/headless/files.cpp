@@ -33,7 +33,7 @@ std::string MemoryFiles::firstFile(const std::string& path) {
   transcript.add("list " + path);
   if (const auto failure = failures.find(path); failure != failures.end()) throw failure->second;
   for (const std::string& file : files) {
-    const std::string name = hiddenFiles.contains(file) ? "" : nameIn(path, file);
+    std::string name = hiddenFiles.contains(file) ? "" : nameIn(path, file);
     if (!name.empty()) return name;
   }
   return "";
