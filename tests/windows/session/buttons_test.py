@@ -123,6 +123,7 @@ class Tooltips(SessionCase):
         time.sleep(1.2)  # longer than a tooltip takes to appear
         self.assertGone()
         desktop.move((900, 700))
+        self.waitForState("Zephra Help", HOT, False)
         self.hover()
 
     def hover(self):

@@ -298,6 +298,7 @@ class Placement(PopupCase):
                 self.assertClosed(popup)
 
     def test_in_the_middle(self):
+        self.drag_toolbar(300, 500)
         self.check("middle")
 
     def test_at_the_lower_edge(self):
@@ -306,7 +307,7 @@ class Placement(PopupCase):
 
     def test_at_the_right_edge(self):
         self.drag_toolbar(900, 500)
-        self.check("right", POPUPS[:-1])  # the playback bar goes where its button is, however far that is
+        self.check("right", POPUPS[:-1])  # the button of the playback is off the screen
 
 
 if __name__ == "__main__":
