@@ -67,11 +67,19 @@ void SystemListView::setSmallIcons(const std::string& folder, const std::string&
   send(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(icons.get()));
 }
 
-void SystemListView::clear() {
-  selecting = true;
+void SystemListView::unselect(UINT which) {
+  const LRESULT index = send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), which);
+  if (index < 0) return;
   LVITEMW none = {};
   none.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-  send(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&none));
+  send(LVM_SETITEMSTATE, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&none));
+}
+
+void SystemListView::clear() {
+  // One by one: asked to unselect everything, the system's list goes through all that it has.
+  selecting = true;
+  unselect(LVNI_SELECTED);
+  unselect(LVNI_FOCUSED);
   selecting = false;
   items.clear();
   clicked = -1;

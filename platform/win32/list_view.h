@@ -32,6 +32,7 @@ class SystemListView final : public ControlOf<ListView> {
   bool takesFocus() const override;
   void reposition() override;
   void describe(LVITEMW& shown) const;
+  void unselect(UINT which);  // LVNI_SELECTED or LVNI_FOCUSED
   void tellCount();
   void clickLater(int index);
   void fitColumn();
