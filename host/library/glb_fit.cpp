@@ -65,7 +65,7 @@ json descriptionOf(const std::string& bytes) {
 }
 
 std::string fittedGlb(const std::string& file, const Model::Extent& extent) {
-  const std::string bytes = file.substr(0, wordAt(file, 8));  // what lies behind the end belongs to nobody
+  std::string bytes = file.substr(0, wordAt(file, 8));  // what lies behind the end belongs to nobody
   constexpr float unnoticeable = 1e-3F;
   if (length(extent.middle) < unnoticeable && std::abs(extent.radius - 1) < unnoticeable) return bytes;
   const std::size_t rest = descriptionEnd(bytes);

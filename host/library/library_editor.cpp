@@ -201,8 +201,8 @@ std::vector<std::string> checkLibrary(const LibraryPlaces& places) {
   if (!inside.empty()) return faults;
   const std::vector<ModelCard> indexed = readIndex(places.models), found = search::readDatabase(places.database);
   const auto lines = [](const std::vector<ModelCard>& cards) {
-    std::vector<std::string> texts;
-    for (const ModelCard& card : cards) texts.push_back(indexLine(card));
+    std::vector<std::string> texts(cards.size());
+    std::transform(cards.begin(), cards.end(), texts.begin(), indexLine);
     return texts;
   };
   if (lines(indexed) != lines(found))

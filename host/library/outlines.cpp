@@ -15,6 +15,7 @@ Vec onCircle(double radius, double angle) { return {radius * std::cos(angle), ra
 
 std::vector<Vec> starOutline(int points, double outer, double inner) {
   std::vector<Vec> outline;
+  outline.reserve(2 * static_cast<std::size_t>(points));
   for (int i = 0; i < 2 * points; ++i) {
     outline.push_back(onCircle(i % 2 == 0 ? outer : inner, pi / 2 + pi * i / points));
   }
