@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <tuple>
 
 #include "host/search/question.h"
 
@@ -15,7 +16,9 @@ struct Rank {
   std::uint16_t keywords = 0;    ///< how many of the question's words are not in the name
   std::uint16_t beginnings = 0;  ///< how many of them are only beginnings of the model's words
 
-  auto operator<=>(const Rank&) const = default;
+  friend bool operator<(const Rank& a, const Rank& b) {
+    return std::tie(a.closeness, a.keywords, a.beginnings) < std::tie(b.closeness, b.keywords, b.beginnings);
+  }
 };
 
 /// Adds the function relevance(words) to full-text queries: the rank of a row for the question that was set last, as

@@ -4,8 +4,6 @@
 namespace nerida {
 namespace {
 
-using testing::ElementsAre;
-
 class OpenMarks : public DeskTest {
  protected:
   void SetUp() override {
@@ -200,14 +198,14 @@ TEST_F(OpenMarks, OfTheLightFallWithAChoiceInAnotherPopup) {
   const auto pressPart = [this](const char* picture) { form("frmSurfaceColors").picture(picture).pressPart(0); };
   const auto pressThickness = [this] { form("frmLineThicknessMenu").bar("barThick").press("Thin"); };
   const struct {
-    int bar;
     const char* key;
     std::function<void()> choose;
+    int bar;
     int state;  // of the Lighting button at its next press
-  } cases[] = {{2, "SurfaceColorFill", [&] { pressPart("pnlColor"); }, buttonDown},
-               {2, "SurfaceColorFill", [&] { pressPart("picMoreColors"); }, buttonDown},
-               {0, "LineThickness", pressThickness, buttonDown},
-               {2, "SurfaceColorFill", [&] { pressPart("picLSSwatch"); }, buttonUp}};
+  } cases[] = {{"SurfaceColorFill", [&] { pressPart("pnlColor"); }, 2, buttonDown},
+               {"SurfaceColorFill", [&] { pressPart("picMoreColors"); }, 2, buttonDown},
+               {"LineThickness", pressThickness, 0, buttonDown},
+               {"SurfaceColorFill", [&] { pressPart("picLSSwatch"); }, 2, buttonUp}};
   for (const auto& c : cases) {
     platform.boxes.colorChoices = {255};
     bar("barLS", c.bar).press(c.key);
