@@ -41,9 +41,9 @@ BOOL CALLBACK lookInto(HWND window, LPARAM parameter) {
   return TRUE;
 }
 
-LPARAM placeOf(const BarButton& button) {
+LPARAM placeOf(IAccessible& bar, const BarButton& button) {
   LONG left = 0, top = 0, width = 0, height = 0;
-  button.accessible->accLocation(&left, &top, &width, &height, number(button.child));
+  bar.accLocation(&left, &top, &width, &height, number(button.child));
   POINT centre = {left + width / 2, top + height / 2};
   ScreenToClient(button.bar, &centre);
   return MAKELPARAM(centre.x, centre.y);
@@ -56,8 +56,9 @@ void BarButton::press() const { accessible->accDoDefaultAction(number(child)); }
 BarButton findButton(HWND form, const std::wstring& name) {
   Search search{name, {}};
   EnumChildWindows(form, lookInto, reinterpret_cast<LPARAM>(&search));
-  require(search.found.accessible != nullptr, "the button is found by its name");
-  search.found.place = placeOf(search.found);
+  IAccessible* const bar = search.found.accessible;
+  require(bar != nullptr, "the button is found by its name");
+  if (bar != nullptr) search.found.place = placeOf(*bar, search.found);
   return search.found;
 }
 

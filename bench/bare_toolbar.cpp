@@ -122,6 +122,10 @@ void giveTooltip(const Bars& bars, NMTTDISPINFOW& wanted) {
 }
 
 LRESULT CALLBACK frameProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_NCCREATE) {
+    const auto* creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(creation->lpCreateParams));
+  }
   auto* bars = reinterpret_cast<Bars*>(GetWindowLongPtrW(window, GWLP_USERDATA));
   if (message == WM_NOTIFY && bars != nullptr) {
     auto* header = reinterpret_cast<NMHDR*>(lParam);
@@ -153,11 +157,11 @@ BareToolbar::BareToolbar() {
   constexpr DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU, extended = WS_EX_TOOLWINDOW;
   RECT outer = {0, 0, pixels(toolbarLayout.width), 0};
   AdjustWindowRectEx(&outer, style, FALSE, extended);
+  auto bars = std::make_unique<Bars>();
   frame =
       CreateWindowExW(extended, frameClass, L"Zephra Toolbar", style | WS_CLIPCHILDREN, 0, 0, outer.right - outer.left,
-                      pixels(toolbarLayout.height), nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
+                      pixels(toolbarLayout.height), nullptr, nullptr, GetModuleHandleW(nullptr), bars.get());
   require(frame != nullptr, "the bare toolbar has its window");
-  auto bars = std::make_unique<Bars>();
   for (const ControlLayout& row : toolbarLayout.controls) {
     if (row.kind == ControlKind::buttonBar) {
       bars->push_back(makeBar(frame, row));
@@ -165,7 +169,7 @@ BareToolbar::BareToolbar() {
       makeField(frame, row);
     }
   }
-  SetWindowLongPtrW(frame, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(bars.release()));
+  static_cast<void>(bars.release());  // the window keeps them
 }
 
 void BareToolbar::show() { SetWindowPos(frame, HWND_TOPMOST, 200, 200, 0, 0, SWP_NOSIZE | SWP_SHOWWINDOW); }

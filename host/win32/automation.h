@@ -109,9 +109,9 @@ class MemberTable {
   static HRESULT use(const Member<Object>& member, Object& object, CallRecord& record, const Outcome& outcome) {
     if (outcome.result != nullptr) VariantInit(outcome.result);
     try {
-      if (record.kind == CallKind::get) member.get(object, outcome.result);
-      if (record.kind == CallKind::let) member.let(object, record.arguments);
-      if (record.kind == CallKind::call) member.call(object, record.arguments, outcome.result);
+      if (record.kind == CallKind::get && member.get) member.get(object, outcome.result);
+      if (record.kind == CallKind::let && member.let) member.let(object, record.arguments);
+      if (record.kind == CallKind::call && member.call) member.call(object, record.arguments, outcome.result);
       return S_OK;
     } catch (const MemberError& error) {
       return describe(error, outcome, record);

@@ -1,6 +1,6 @@
 #include <olectl.h>
 
-#include <ranges>
+#include <algorithm>
 #include <vector>
 
 #include "host/win32/server.h"
@@ -88,7 +88,7 @@ void remove(HKEY root, const Entry& entry) {
 }
 
 void remove(HKEY root, const std::vector<Entry>& entries) {
-  for (const Entry& entry : std::views::reverse(entries)) remove(root, entry);
+  std::for_each(entries.rbegin(), entries.rend(), [root](const Entry& entry) { remove(root, entry); });
 }
 
 bool isRegistered(HKEY root, const ServerClass& of, REGSAM view) {

@@ -15,7 +15,7 @@ Session& session() {
   if (current() == nullptr) {
     auto made = std::make_unique<Session>();
     if (TlsSetValue(slot, made.get()) == FALSE) throw std::bad_alloc();
-    made.release();
+    static_cast<void>(made.release());  // the slot keeps it
   }
   return *current();
 }
