@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "activex/process_library.h"
-#include "control/nerida_window.h"
+#include "control/traced_window.h"
 
 namespace nerida {
 
@@ -35,7 +35,7 @@ class AutomationFace : public _NeridaWindow {
 
  private:
   const LibraryHold hold;
-  NeridaWindow control{hold.library()};
+  TracedWindow control{hold.library(), hold.trace()};
 };
 
 }  // namespace nerida

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <memory>
+
 #include "control/library.h"
+#include "core/trace.h"
 
 namespace nerida {
 
@@ -14,6 +17,8 @@ class LibraryHold {
   LibraryHold(const LibraryHold&) = delete;
   LibraryHold& operator=(const LibraryHold&) = delete;
   Library& library() const;
+  // Null when nobody asked for one. Whether one is wanted is found out for the first of several controls.
+  std::shared_ptr<Trace> trace() const;
 };
 
 // Gives it up, when the module goes and the process stays.

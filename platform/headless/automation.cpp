@@ -1,27 +1,15 @@
 #include "platform/headless/automation.h"
 
+#include "platform/value_text.h"
+
 namespace nerida::headless {
 namespace {
 
-struct Writer {
-  std::string operator()(std::monostate) const { return "Empty"; }
-  std::string operator()(Null) const { return "Null"; }
-  std::string operator()(bool value) const { return value ? "True" : "False"; }
-  std::string operator()(std::int16_t value) const { return std::to_string(value) + "%"; }
-  std::string operator()(std::int32_t value) const { return std::to_string(value) + "&"; }
-  std::string operator()(double value) const { return toText(value) + "#"; }
-  std::string operator()(const std::string& value) const { return '"' + value + '"'; }
-  std::string operator()(const ObjectRef&) const { return "Object"; }
-  std::string operator()(const std::shared_ptr<const Array>&) const { return "Array"; }
-};
-
 std::string written(const Argument& argument) {
-  return argument.variable ? "ByRef " + headless::written(*argument.variable) : headless::written(argument.value);
+  return argument.variable ? "ByRef " + nerida::written(*argument.variable) : nerida::written(argument.value);
 }
 
 }  // namespace
-
-std::string written(const Value& value) { return std::visit(Writer{}, static_cast<const Value::variant&>(value)); }
 
 void ScriptedObject::enter(const std::string& member, const std::string& line) {
   transcript.add("model: " + line);
@@ -40,7 +28,7 @@ Value ScriptedObject::get(const std::string& member) {
 }
 
 void ScriptedObject::let(const std::string& member, const Value& value) {
-  enter(member, member + " = " + headless::written(value));
+  enter(member, member + " = " + nerida::written(value));
   const auto entry = values.find(member);
   if (entry == values.end()) throw Error(error::noSuchMember);
   entry->second = value;

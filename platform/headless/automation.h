@@ -36,7 +36,4 @@ class ScriptedObject : public Object {
   Transcript& transcript;
 };
 
-// How a value is written in a transcript.
-std::string written(const Value& value);
-
 }  // namespace nerida::headless

@@ -1,4 +1,5 @@
 // The menu of line thicknesses: how it is built, which button it shows pressed, what a press sends, how it closes.
+#include "platform/value_text.h"
 #include "tests/unit/desk.h"
 
 namespace nerida {
@@ -107,8 +108,8 @@ TEST_F(LineThickness, ShowsTheThinnestButtonThatTheScaleDoesNotExceed) {
   };
   for (const ScaleCase& c : cases) {
     open(c.scale);
-    EXPECT_EQ(pressedKeys(), c.key) << headless::written(c.scale);
-    EXPECT_EQ(menu().GetSelection(), c.selection) << headless::written(c.scale);
+    EXPECT_EQ(pressedKeys(), c.key) << written(c.scale);
+    EXPECT_EQ(menu().GetSelection(), c.selection) << written(c.scale);
     menu().HideSelf();
   }
 }

@@ -1,4 +1,5 @@
 // The three palettes: every way to choose, every way to fail, and what the toolbar and the model are told.
+#include "platform/value_text.h"
 #include "tests/unit/palette_desk.h"
 
 namespace nerida {
@@ -240,7 +241,7 @@ TEST_P(Palette, TakesAnythingThatIsNotZeroForTheStylesColor) {
     explicitColor(255);
     model->values[role->isDefault] = value;
     palette().ShowSelf(0, 0);
-    EXPECT_EQ(frame().empty(), isDefault) << headless::written(value);
+    EXPECT_EQ(frame().empty(), isDefault) << written(value);
     palette().unload();
   }
   model->values[role->isDefault] = std::string("garbage");
