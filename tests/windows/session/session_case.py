@@ -30,6 +30,7 @@ def main():
     programs.search = options.build / "tests" / "windows" / "catalog" / "prepared_search.dll"
     programs.preview = options.build / "host" / "preview" / "ZephraPreview.ocx"
     programs.host = options.build / "host" / "app" / "zephra-host.exe"
+    programs.example = options.build / "examples" / "example_host.exe"
     programs.models = options.models
     installation.register(programs.control, programs.arch)
     installation.register(programs.search, programs.arch)
