@@ -88,7 +88,9 @@ class Model : public IDispatch {
     property(L"LookStyleName", text(L"Clay"));
     property(L"LookStyle", text(L""));
     property(L"LineThicknessScale", number(100, VT_I2));
-    for (const wchar_t* name : {L"BackgroundColor", L"LineColor", L"SurfaceColor"}) property(name, number(0));
+    property(L"BackgroundColor", number(RGB(255, 255, 255)));
+    property(L"LineColor", number(RGB(0, 0, 0)));
+    property(L"SurfaceColor", number(RGB(200, 120, 60)));
     for (const wchar_t* name : {L"IsBackgroundDefault", L"IsLineColorDefault", L"IsSurfaceColorDefault", L"LightIsOn"})
       property(name, number(1, VT_BOOL));
     for (const wchar_t* name : {L"IsToolbarShowing", L"IsCatalogShowing", L"DoneShowingModelCatalog", L"AnimationState",
@@ -120,6 +122,13 @@ class Model : public IDispatch {
   }
   virtual ~Model() {
     for (auto& [id, value] : values) VariantClear(&value);
+  }
+
+  VARIANT& valueOf(const wchar_t* property) {
+    DISPID id = DISPID_UNKNOWN;
+    auto* name = const_cast<OLECHAR*>(property);
+    GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id);
+    return values[id];
   }
 
   std::function<void()> changed;
@@ -180,7 +189,7 @@ class Model : public IDispatch {
   HRESULT let(DISPID id, VARIANT& value) {
     tell(names[id] + L" = " + textOf(value));
     if (names[id] == L"LookStyle") {
-      VARIANT& current = values[id - 1];  // LookStyleName stands before it
+      VARIANT& current = valueOf(L"LookStyleName");
       VariantClear(&current);
       current = text(textOf(value).empty() ? L"none" : textOf(value).c_str());
     }
@@ -252,11 +261,13 @@ void beginEditing(HWND page) {
   const long window = toolbar.call(L"ToolbarShow", {number(place.x, VT_I2), number(place.y, VT_I2)});
   tell(window != -1 ? L"shown" : L"not shown");
   toolbarWindow = window != -1 ? static_cast<HWND>(LongToHandle(window)) : nullptr;
+  InvalidateRect(page, nullptr, TRUE);
 }
 
-void endEditing() {
+void endEditing(HWND page) {
   if (toolbarWindow == nullptr) return;
   toolbarWindow = nullptr;
+  InvalidateRect(page, nullptr, TRUE);
   toolbar.call(L"ToolbarHide");
   tell(L"hidden");
 }
@@ -265,11 +276,15 @@ void paint(HWND page) {
   PAINTSTRUCT painting;
   const HDC context = BeginPaint(page, &painting);
   const RECT area = modelArea(page);
-  SelectObject(context, GetStockObject(toolbarWindow != nullptr ? GRAY_BRUSH : LTGRAY_BRUSH));
+  SelectObject(context, GetStockObject(DC_BRUSH));
+  SelectObject(context, GetStockObject(DC_PEN));
+  SetDCBrushColor(context, static_cast<COLORREF>(numberOf(model.valueOf(L"SurfaceColor"))));
+  SetDCPenColor(context, static_cast<COLORREF>(numberOf(model.valueOf(L"LineColor"))));
   const long x = (area.left + area.right) / 2, y = (area.top + area.bottom) / 2, quarter = (area.right - x) / 3;
   const POINT sails[] = {{x, area.top},    {x + quarter, y - quarter}, {area.right, y}, {x + quarter, y + quarter},
                          {x, area.bottom}, {x - quarter, y + quarter}, {area.left, y},  {x - quarter, y - quarter}};
   Polygon(context, sails, 8);
+  if (toolbarWindow != nullptr) DrawFocusRect(context, &area);
   EndPaint(page, &painting);
 }
 
@@ -284,11 +299,10 @@ LRESULT CALLBACK pageProcedure(HWND page, UINT message, WPARAM wParam, LPARAM lP
       if (PtInRect(&area, point)) beginEditing(page);
       return 0;
     case WM_LBUTTONDOWN:
-      if (!PtInRect(&area, point)) endEditing();
+      if (!PtInRect(&area, point)) endEditing(page);
       return 0;
     case WM_KEYDOWN:
-      if (wParam == VK_ESCAPE) endEditing();
-      if (wParam == VK_F6 && toolbarWindow != nullptr) SetActiveWindow(toolbarWindow);
+      if (wParam == VK_ESCAPE) endEditing(page);
       return 0;
     case WM_DESTROY:
       toolbar.call(L"ToolbarDispose");
@@ -297,6 +311,13 @@ LRESULT CALLBACK pageProcedure(HWND page, UINT message, WPARAM wParam, LPARAM lP
     default:
       return DefWindowProcW(page, message, wParam, lParam);
   }
+}
+
+// F6 goes from the page to the toolbar and back. Only the host's loop sees the keys of both.
+bool goesToTheOther(const MSG& message, HWND page) {
+  if (message.message != WM_KEYDOWN || message.wParam != VK_F6 || toolbarWindow == nullptr) return false;
+  SetForegroundWindow(GetActiveWindow() == page ? toolbarWindow : page);
+  return true;
 }
 
 HWND makePage() {
@@ -323,10 +344,11 @@ int wmain() {
   }
   const HWND page = makePage();
   model.changed = [page] { InvalidateRect(page, nullptr, TRUE); };
-  // The plain loop is enough: the toolbar's windows belong to this thread and are served with its own. What a host
-  // translates (accelerators, dialogs) must be its own windows' messages only.
+  // The plain loop is nearly enough: the toolbar's windows belong to this thread and are served with its own. What a
+  // host translates (accelerators, dialogs) must be its own windows' messages only.
   MSG message;
   while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+    if (goesToTheOther(message, page)) continue;
     TranslateMessage(&message);
     DispatchMessageW(&message);
   }

@@ -11,6 +11,7 @@ from tools.session.probe import HOT, PUSH_BUTTON, Probe, windows_path
 
 EXAMPLES = ROOT / "examples"
 WM_CLOSE = 0x10
+FOCUSED = 0x4
 
 
 class Example(unittest.TestCase):
@@ -29,7 +30,7 @@ class Example(unittest.TestCase):
 
     def start_in_system(self, path):
         self.start("cmd", "/c", r"C:\windows\syswow64\cscript.exe" if programs.arch == "x86" else
-                   r"C:\windows\sysnative\cscript.exe", "//nologo", windows_path(EXAMPLES / path))
+                   r"C:\windows\sysnative\cscript.exe", "//nologo", windows_path(path))
 
     def lines(self):
         return Path(self.printed.name).read_text(encoding="ascii").splitlines()
@@ -57,20 +58,34 @@ class Example(unittest.TestCase):
         palette = self.probe.element(self.popup(), "Red", PUSH_BUTTON)
         desktop.click(desktop.centre(palette["rect"]))
 
+    def go_there_and_back(self, page):
+        """With F6: the toolbar can be used without a mouse."""
+        self.wait_for_front(page)
+        desktop.key("F6")
+        self.wait_for_front(self.toolbar)
+        desktop.key("Tab")
+        wait_for(lambda: self.probe.names_in_state(self.toolbar, FOCUSED) == ["Replace Zephra"],
+                 what="the keyboard at the first button")
+        desktop.key("F6")
+        self.wait_for_front(page)
+
+    def wait_for_front(self, window):
+        wait_for(lambda: self.probe.ask("foreground") == window["window"], what=f"{window['title']!r} in front")
+
     def popup(self):
         own = self.toolbar["window"]
         return wait_for(lambda: next((w for w in self.probe.windows(class_name=self.toolbar["class"])
                                       if w["window"] != own), None), what="the popup")
 
     def answer_box(self):
-        left, _, right, bottom = self.probe.window("Windmill", "#32770")["rect"]
+        left, _, right, bottom = self.probe.window(class_name="#32770")["rect"]
         desktop.click(((left + right) // 2, bottom - 22))  # its only button
 
     def end(self):
         self.process.wait(timeout=20)
 
     def test_basic_script(self):
-        self.start_in_system("vbscript/host.vbs")
+        self.start_in_system(EXAMPLES / "vbscript" / "host.vbs")
         self.see_toolbar()
         self.nudge_tilt_and_choose_a_colour()
         self.wait_for_line("SurfaceColor FF")
@@ -79,6 +94,20 @@ class Example(unittest.TestCase):
         self.end()
         self.assertEqual(["RefreshDisplay", "bound: 0", "shown: True at 100, 100", "MoveX 1", "MoveY 1", "RotateY -2",
                           "SurfaceColor FF", "visible: True", "the catalog has closed", "the end"], self.lines())
+
+    def test_first_host_of_the_guide(self):
+        code = (ROOT / "docs" / "integration.md").read_text(encoding="utf-8").split("```vb\n", 1)[1].split("```", 1)[0]
+        script = tempfile.NamedTemporaryFile(prefix="guide-", suffix=".vbs")
+        self.addCleanup(script.close)
+        Path(script.name).write_text(code, encoding="ascii")
+        self.start_in_system(script.name)
+        self.see_toolbar()
+        self.press("Model Orientation")
+        self.press("Nudge Left")
+        self.wait_for_line("left by 1")
+        self.answer_box()
+        self.end()
+        self.assertEqual(["left by 1"], self.lines())
 
     def test_java_script(self):
         """In a script host that sleeps as the real one does: the one under Wine cannot."""
@@ -101,6 +130,8 @@ class Example(unittest.TestCase):
         self.see_toolbar()
         self.nudge_tilt_and_choose_a_colour()
         self.wait_for_line("SurfaceColor = 255")
+        desktop.click(middle)
+        self.go_there_and_back(page)
         desktop.picture(SCREENS / "example-cpp.png")
         desktop.click((left + 40, bottom - 40))
         self.wait_for_line("hidden")
