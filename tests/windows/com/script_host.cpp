@@ -1,11 +1,14 @@
 // Runs a script and shows its errors, which the system's own script host keeps to itself:
-//   script_host LANGUAGE FILE
+//   script_host LANGUAGE FILE [CONTROL]
+// With a control's name, the control lies in the system's control container, and the script knows it as "Contained".
 // Ends with 0 after a script without errors. WScript.Echo prints a line; messages are handled until the script ends.
 
 #include <cstdio>
 #include <fstream>
 #include <iterator>
+#include <optional>
 
+#include "tests/windows/com/contained_control.h"
 #include "tests/windows/com/script_engine.h"
 
 namespace nerida {
@@ -58,7 +61,7 @@ class HostObject : public IDispatch {
   }
 };
 
-int runScript(const char* language, const char* path) {
+int runScript(const char* language, const char* path, const char* control) {
   std::ifstream file(path, std::ios::binary);
   if (!file) {
     std::printf("cannot read %s\n", path);
@@ -68,6 +71,11 @@ int runScript(const char* language, const char* path) {
   HostObject host;
   ScriptEngine engine(wide(language));
   engine.add(L"WScript", &host);
+  std::optional<ContainedControl> container;
+  if (control != nullptr) {
+    container.emplace(wide(control));
+    engine.add(L"Contained", container->automation().get());
+  }
   const bool ran = engine.run(wide(code));
   if (!ran) std::printf("%s: %s\n", path, utf8(engine.error()).c_str());
   return ran ? 0 : 1;
@@ -77,9 +85,9 @@ int runScript(const char* language, const char* path) {
 }  // namespace nerida
 
 int main(int count, char** arguments) {
-  if (count != 3) return 2;
-  CoInitialize(nullptr);
-  const int status = nerida::runScript(arguments[1], arguments[2]);
-  CoUninitialize();
+  if (count != 3 && count != 4) return 2;
+  OleInitialize(nullptr);
+  const int status = nerida::runScript(arguments[1], arguments[2], count == 4 ? arguments[3] : nullptr);
+  OleUninitialize();
   return status;
 }

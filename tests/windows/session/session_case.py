@@ -13,6 +13,7 @@ from tests.windows.session.client import Client  # noqa: E402
 from tools.session import desktop  # noqa: E402
 from tools.session.probe import HOT, PRESSED, PUSH_BUTTON, UNAVAILABLE, Probe, wait_for  # noqa: E402
 
+HERE = Path(__file__).resolve().parent
 SCREENS = ROOT / "out" / "screens"
 programs = argparse.Namespace()
 
