@@ -9,6 +9,7 @@
 #include "host/library/library.h"
 #include "host/library/library_editor.h"
 #include "host/library/model_import.h"
+#include "host/library/shipped_models.h"
 
 namespace nerida::library {
 namespace {
@@ -23,6 +24,9 @@ constexpr const char* usage =
     "zephra-library check                look whether its files, index and database are whole\n"
     "zephra-library build-index          make the database anew out of the index\n"
     "zephra-library build DESCRIPTIONS   make a library from the descriptions in a folder\n"
+    "zephra-library replace-shipped [FOLDER]\n"
+    "                                    put the models of another library in place of those that came this way\n"
+    "                                    before; people's own stay\n"
     "\n"
     "All take --library FOLDER (else Models beside this program) and --database FOLDER (else the folder above the\n"
     "library).\n";
@@ -126,6 +130,12 @@ int build(const CommandLine& line, const LibraryPlaces& places) {
   return 0;
 }
 
+int replaceShipped(const CommandLine& line, const LibraryPlaces& places) {
+  if (line.files().size() > 1) throw LibraryError("name one library");
+  replaceShippedModels(places, line.files().empty() ? fs::path() : line.files().front());
+  return 0;
+}
+
 struct Command {
   const char* name;
   int (*run)(const CommandLine&, const LibraryPlaces&);
@@ -138,7 +148,8 @@ const Command* findCommand(const std::string& name) {
                                      {"list", list, {}},
                                      {"check", check, {}},
                                      {"build-index", buildIndex, {}},
-                                     {"build", build, {}}};
+                                     {"build", build, {}},
+                                     {"replace-shipped", replaceShipped, {}}};
   const auto* found = std::ranges::find_if(commands, [&](const Command& command) { return name == command.name; });
   return found == std::end(commands) ? nullptr : found;
 }

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "host/library/fields.h"
+#include "host/library/model_path.h"
 
 namespace nerida::library {
 
@@ -29,6 +30,19 @@ void writeFile(const fs::path& file, const std::string& bytes) {
   if (!stream) throw LibraryError(file.string() + ": cannot be written");
   fs::rename(unfinished, file, error);
   if (error) throw LibraryError(file.string() + ": cannot be replaced");
+}
+
+void removeModelFile(const fs::path& library, std::int32_t number) {
+  std::error_code error;
+  fs::path place = library / modelPath(number);
+  fs::path unfinished = place;
+  unfinished += ".part";
+  fs::remove(unfinished, error);
+  fs::remove(place, error);
+  for (int level = 0; level < 3; ++level) {
+    place = place.parent_path();
+    if (!fs::is_empty(place, error) || error || !fs::remove(place, error)) return;
+  }
 }
 
 }  // namespace nerida::library

@@ -16,7 +16,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* noteName = "unfinished-change.txt";
-constexpr const char* lockName = "library.lock";
 constexpr const char* adding = "add ";
 constexpr const char* removing = "remove ";
 
@@ -51,7 +50,7 @@ std::string lastWordOf(const std::string& text) { return text.substr(text.rfind(
 }  // namespace
 
 LibraryEditor::LibraryEditor(LibraryPlaces where, Step whenDone)
-    : places(std::move(where)), step(std::move(whenDone)), lock(madeFolder(places.models) / lockName) {
+    : places(std::move(where)), step(std::move(whenDone)), lock(madeFolder(places.models) / lockFileName) {
   bringToAnEnd();
 }
 
@@ -87,7 +86,7 @@ void LibraryEditor::add(const ModelCard& card, const std::string& modelFile) {
     did("model file");
     asLibraryError([&] { search::changeDatabase(places.database, {card}); });
   } catch (const LibraryError&) {
-    removeModelFile(card.number);
+    removeModelFile(places.models, card.number);
     forgetNote();
     throw;
   }
@@ -160,7 +159,7 @@ void LibraryEditor::endAdding(const ModelCard& card) const {
     if (!isNumberIn(readIndex(places.models), card.number)) addToIndex(places.models, card);
     return;
   }
-  removeModelFile(card.number);
+  removeModelFile(places.models, card.number);
 }
 
 void LibraryEditor::endRemoving(std::int32_t number) const {
@@ -168,21 +167,8 @@ void LibraryEditor::endRemoving(std::int32_t number) const {
   std::erase_if(cards, [&](const ModelCard& card) { return card.number == number; });
   writeIndex(places.models, std::move(cards));
   did("index");
-  removeModelFile(number);
+  removeModelFile(places.models, number);
   did("model file");
-}
-
-void LibraryEditor::removeModelFile(std::int32_t number) const {
-  std::error_code error;
-  fs::path place = places.models / modelPath(number);
-  fs::path unfinished = place;
-  unfinished += ".part";
-  fs::remove(unfinished, error);
-  fs::remove(place, error);
-  for (int level = 0; level < 3; ++level) {
-    place = place.parent_path();
-    if (!fs::is_empty(place, error) || error || !fs::remove(place, error)) return;
-  }
 }
 
 bool hasUnfinishedChange(const fs::path& library) {

@@ -16,6 +16,9 @@ struct LibraryPlaces {
   std::filesystem::path models, database;
 };
 
+/// The file by which editors of one library wait for each other.
+inline constexpr const char* lockFileName = "library.lock";
+
 /// Changes a library: model files, index and database together. Whoever is killed in the middle leaves a note behind
 /// from which the next editor completes the change or takes it back; until then a search sees the library without it
 /// or with all of it. Everything here throws LibraryError.
@@ -51,7 +54,6 @@ class LibraryEditor {
   void endAdding(const ModelCard& card) const;
   void endRemoving(std::int32_t number) const;
   [[nodiscard]] bool databaseHas(std::int32_t number) const;
-  void removeModelFile(std::int32_t number) const;
   void requireDatabase();
 
   LibraryPlaces places;
