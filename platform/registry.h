@@ -12,7 +12,8 @@ struct RegistryValue {
   std::string data;  // the bytes up to the first NUL, read as text of the system's code page
 };
 
-// An open key of the machine-wide registry (32-bit view); closed when it goes away.
+// An open key of the machine-wide registry (32-bit view), or the user's of the same path where the machine has none;
+// closed when it goes away.
 class RegistryKey {
  public:
   virtual ~RegistryKey() = default;

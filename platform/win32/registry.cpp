@@ -38,25 +38,38 @@ DWORD dataSize(DWORD type, const std::wstring& text, DWORD size) {
   return static_cast<DWORD>(WideCharToMultiByte(CP_ACP, 0, text.data(), length, nullptr, 0, nullptr, nullptr));
 }
 
+RegistryHandle openBelow(const RegistryHandle& parent, const std::string& name, long& status) {
+  RegistryHandle child;
+  status = parent.get() == nullptr
+               ? ERROR_FILE_NOT_FOUND
+               : RegOpenKeyExW(parent.get(), wide(name).c_str(), 0, KEY_READ | KEY_WOW64_32KEY, child.put());
+  return child;
+}
+
+// Without the right to install for everybody people install for themselves, and the entries stand in their own part of
+// the registry. Where both have a key, the machine's is read.
 class SystemRegistryKey : public RegistryKey {
  public:
-  explicit SystemRegistryKey(RegistryHandle key) : key(std::move(key)) {}
+  SystemRegistryKey(RegistryHandle machine, RegistryHandle user) : machine(std::move(machine)), user(std::move(user)) {}
 
   std::unique_ptr<RegistryKey> open(const std::string& name, long& status) override {
-    RegistryHandle child;
-    status = RegOpenKeyExW(key.get(), wide(name).c_str(), 0, KEY_READ | KEY_WOW64_32KEY, child.put());
-    if (status != ERROR_SUCCESS) return nullptr;
-    return std::make_unique<SystemRegistryKey>(std::move(child));
+    long userStatus = 0;
+    RegistryHandle machineChild = openBelow(machine, name, status);
+    RegistryHandle userChild = openBelow(user, name, userStatus);
+    if (status != ERROR_SUCCESS && userStatus != ERROR_SUCCESS) return nullptr;
+    status = ERROR_SUCCESS;
+    return std::make_unique<SystemRegistryKey>(std::move(machineChild), std::move(userChild));
   }
 
   std::optional<RegistryValue> value(int index, long& status) override {
+    const HKEY key = machine.get() != nullptr ? machine.get() : user.get();
     std::array<wchar_t, nameCapacity> name;
     DWORD nameLength = nameCapacity;
     DataBuffer data;
     DWORD size = data.size();
     DWORD type = REG_NONE;
-    status = RegEnumValueW(key.get(), static_cast<DWORD>(index), name.data(), &nameLength, nullptr, &type, data.data(),
-                           &size);
+    status =
+        RegEnumValueW(key, static_cast<DWORD>(index), name.data(), &nameLength, nullptr, &type, data.data(), &size);
     if (status != ERROR_SUCCESS) return std::nullopt;
     const std::wstring text = dataText(type, data, size);
     if (dataSize(type, text, size) > dataCapacity) {
@@ -67,13 +80,14 @@ class SystemRegistryKey : public RegistryKey {
   }
 
  private:
-  RegistryHandle key;
+  RegistryHandle machine;
+  RegistryHandle user;
 };
 
 }  // namespace
 
 std::unique_ptr<RegistryKey> SystemRegistry::openLocalMachine() {
-  return std::make_unique<SystemRegistryKey>(RegistryHandle(HKEY_LOCAL_MACHINE));
+  return std::make_unique<SystemRegistryKey>(RegistryHandle(HKEY_LOCAL_MACHINE), RegistryHandle(HKEY_CURRENT_USER));
 }
 
 }  // namespace nerida

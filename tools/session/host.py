@@ -8,14 +8,16 @@ from .probe import ROOT, wait_for, windows_path
 
 
 class Host:
-    def __init__(self, model, program=ROOT / "dist" / "x86" / "zephra-host.exe", place=(140, 60, 900, 720)):
+    def __init__(self, model, program=ROOT / "dist" / "x86" / "zephra-host.exe", place=(140, 60, 900, 720),
+                 options=(), environment=None):
         self.log_file = Path(tempfile.mkdtemp()) / "calls.log"
         self.log_file.touch()
         self.read = 0
         self.process = subprocess.Popen(
             ["wine", str(program), "--model", windows_path(model), "--log",
-             windows_path(self.log_file), "--place", ",".join(str(n) for n in place)],
-            stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+             windows_path(self.log_file), "--place", ",".join(str(n) for n in place),
+             *options],
+            env=environment, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
     def calls(self):
         """What the model has received since the last question, one line a call."""

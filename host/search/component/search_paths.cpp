@@ -3,7 +3,7 @@
 #include <shlobj.h>
 #include <windows.h>
 
-#include <cstring>
+#include <cwchar>
 
 namespace nerida::host {
 namespace {
@@ -17,25 +17,33 @@ std::wstring fromAnsi(const char* text) {
   return result;
 }
 
+// The machine's installation, or, where there is none, the user's own. Null when there is neither.
+HKEY openInstallation() {
+  for (const HKEY root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}) {
+    HKEY key = nullptr;
+    if (RegOpenKeyExW(root, installationKey, 0, KEY_READ | KEY_WOW64_32KEY, &key) == ERROR_SUCCESS) return key;
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 // Read the way the control reads it: in the 32-bit view, by the beginning of the value's name, the last one wins, and
 // the data are text up to the first NUL, whatever their type.
 std::wstring dictionaryFolder() {
-  HKEY key = nullptr;
-  if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, installationKey, 0, KEY_READ | KEY_WOW64_32KEY, &key) != ERROR_SUCCESS) {
-    return {};
-  }
+  const HKEY key = openInstallation();
+  if (key == nullptr) return {};
   std::wstring folder;
   for (DWORD index = 0;; ++index) {
-    char name[256];
-    char data[257] = {};
-    DWORD nameLength = sizeof name, dataLength = 256;
-    if (RegEnumValueA(key, index, name, &nameLength, nullptr, nullptr, reinterpret_cast<BYTE*>(data), &dataLength) !=
+    wchar_t name[256];
+    wchar_t data[257] = {};
+    DWORD nameLength = 256, dataLength = 256 * sizeof(wchar_t), type = REG_NONE;
+    if (RegEnumValueW(key, index, name, &nameLength, nullptr, &type, reinterpret_cast<BYTE*>(data), &dataLength) !=
         ERROR_SUCCESS) {
       break;
     }
-    if (std::strncmp(name, "Dic", 3) == 0) folder = fromAnsi(data);
+    if (std::wcsncmp(name, L"Dic", 3) != 0) continue;
+    folder = type == REG_SZ || type == REG_EXPAND_SZ ? data : fromAnsi(reinterpret_cast<const char*>(data));
   }
   RegCloseKey(key);
   return folder;

@@ -112,6 +112,30 @@ TEST_F(MachineRegistry, TheBuffersHold256) {
   EXPECT_EQ(status, ERROR_MORE_DATA);
 }
 
+// What somebody has installed for himself alone.
+class UserRegistry : public MachineRegistry {
+ protected:
+  UserRegistry() {
+    RegistryHandle key;
+    RegCreateKeyExW(HKEY_CURRENT_USER, path, 0, nullptr, 0, KEY_SET_VALUE, nullptr, key.put(), nullptr);
+    key.setText(L"Dictionary", L"C:\\Mine");
+  }
+  ~UserRegistry() override { RegDeleteKeyW(HKEY_CURRENT_USER, path); }
+};
+
+TEST_F(UserRegistry, IsReadWhereTheMachineHasNoSuchKey) {
+  remove();
+  ASSERT_TRUE(value());
+  EXPECT_EQ(value()->data, "C:\\Mine");
+  EXPECT_EQ(status, 0);
+}
+
+TEST_F(UserRegistry, IsHiddenByTheMachines) {
+  writeText(L"Dictionary", L"C:\\Everybodys");
+  ASSERT_TRUE(value());
+  EXPECT_EQ(value()->data, "C:\\Everybodys");
+}
+
 TEST(MessageBoxes, ShowTextAndTitleAndGiveTheAnswer) {
   SystemPrompts prompts;
   BoxWatcher retrying(IDRETRY);

@@ -5,6 +5,7 @@
 
 #include "host/search/database.h"
 #include "host/search/model_database.h"
+#include "platform/win32/registry_handle.h"
 #include "tests/windows/search/search_files.h"
 
 namespace nerida::host {
@@ -47,6 +48,25 @@ std::vector<std::string> texts(SAFEARRAY* array) {
 }
 
 std::vector<long> numbers(SAFEARRAY* array) { return elements<long>(array, VT_I4); }
+
+/// While it lives, this program sees a machine on which nothing is installed.
+class HiddenInstallation {
+ public:
+  HiddenInstallation() {
+    RegCreateKeyExW(HKEY_CURRENT_USER, path, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, nothing.put(), nullptr);
+    RegOverridePredefKey(HKEY_LOCAL_MACHINE, nothing.get());
+  }
+  HiddenInstallation(const HiddenInstallation&) = delete;
+  HiddenInstallation& operator=(const HiddenInstallation&) = delete;
+  ~HiddenInstallation() {
+    RegOverridePredefKey(HKEY_LOCAL_MACHINE, nullptr);
+    RegDeleteKeyW(HKEY_CURRENT_USER, path);
+  }
+
+ private:
+  static constexpr const wchar_t* path = L"Software\\NeridaNothing";
+  RegistryHandle nothing;
+};
 
 using Texts = std::vector<std::string>;
 using Numbers = std::vector<long>;
@@ -257,6 +277,18 @@ TEST_F(SearchComponent, ReadsTheInstallationAsTheControlDoes) {
   writeInstallation(L"dictionary path", L"");
   writeInstallation(L"Dic2", folder);
   EXPECT_EQ(namesFor(L"boat").size(), 2U);
+}
+
+// Of somebody who has installed for himself alone, in a folder whose name the system's code page does not know.
+TEST_F(SearchComponent, ReadsTheUsersOwnInstallationWhereTheMachineHasNone) {
+  constexpr const wchar_t* own = L"Software\\Tarnwell\\Zephra";
+  const std::filesystem::path folder = files.path() / L"\u0142\u00f3d\u017a";
+  search::buildDatabase(folder, {{1, "Sailing Boat", "Transport", "Ships", {"water"}, false}});
+  const HiddenInstallation hidden;
+  RegSetKeyValueW(HKEY_CURRENT_USER, own, L"Dictionary", REG_SZ, folder.c_str(),
+                  static_cast<DWORD>((folder.wstring().size() + 1) * sizeof(wchar_t)));
+  EXPECT_EQ(namesFor(L"boat").size(), 1U);
+  RegDeleteKeyW(HKEY_CURRENT_USER, own);
 }
 
 TEST_F(SearchComponent, SeesAChangeWithTheNextSearch) {
