@@ -7,11 +7,12 @@
   ${EndIf}
 !macroend
 
-; $R8 names the program.
+; $R8 names the program. The library comes last: it takes away the keys of the classes that a person has for the first
+; controls only.
 !macro Regsvr32All options folder
-  !insertmacro Regsvr32 "${options}" "$INSTDIR\${folder}\ActiveNeridaToolbar.ocx"
   !insertmacro Regsvr32 "${options}" "$INSTDIR\${folder}\ZephraPreview.ocx"
   !insertmacro Regsvr32 "${options}" "$INSTDIR\${folder}\ZephraSearch.dll"
+  !insertmacro Regsvr32 "${options}" "$INSTDIR\${folder}\ActiveNeridaToolbar.ocx"
 !macroend
 
 ; Leaves the files that failed in $R9. This program is of 32 bits and sees the system's folder of that bitness; the other

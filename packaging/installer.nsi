@@ -22,7 +22,8 @@ RequestExecutionLevel highest
 !define PRODUCT_KEY "Software\Tarnwell\Zephra"
 !define VERSION_KEY "${PRODUCT_KEY}\1.0"
 !define PRODUCT_TEXT "Zephra 1.0"
-!define APPS_ENTRY "Software\Microsoft\Windows\CurrentVersion\Uninstall\${PRODUCT}"
+!define APPS "Software\Microsoft\Windows\CurrentVersion\Uninstall"
+!define APPS_ENTRY "${APPS}\${PRODUCT}"
 
 !define EXIT_IN_USE 10
 !define EXIT_FOR_EVERYBODY 11
@@ -148,10 +149,14 @@ Section Uninstall
   Call un.RemoveProductKeys
   nsExec::ExecToLog '"$INSTDIR\zephra-library.exe" replace-shipped'
   Pop $0
+  Delete "$INSTDIR\Models\library.lock"
   !insertmacro RemoveFiles
   Delete "$SMPROGRAMS\Zephra\Zephra Document.lnk"
   RMDir "$SMPROGRAMS\Zephra"
   Call un.RemoveAppsEntry
   Delete "$INSTDIR\uninstall.exe"
   RMDir "$INSTDIR"
+  ${If} $ForEverybody != 1
+    RMDir "$LOCALAPPDATA\Programs" ; where it was empty before
+  ${EndIf}
 SectionEnd

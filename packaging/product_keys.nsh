@@ -42,6 +42,9 @@ FunctionEnd
 Function un.RemoveAppsEntry
   !insertmacro UseAppsView
   DeleteRegKey SHCTX "${APPS_ENTRY}"
+  ${If} $ForEverybody != 1
+    DeleteRegKey /ifempty HKCU "${APPS}"
+  ${EndIf}
   SetRegView 32
 FunctionEnd
 

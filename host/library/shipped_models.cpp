@@ -43,6 +43,11 @@ Lines readRecord(const fs::path& library) {
 }
 
 void writeRecord(const fs::path& library, const Lines& lines) {
+  if (lines.empty()) {
+    std::error_code ignored;
+    fs::remove(library / recordName, ignored);
+    return;
+  }
   std::string text;
   for (const std::string& line : lines) text += line;
   writeFile(library / recordName, text);
@@ -96,7 +101,7 @@ void exchange(LibraryEditor& editor, const fs::path& library, const fs::path& sh
 
 void removeEmptyLibrary(const LibraryPlaces& places) {
   std::error_code ignored;
-  for (const char* name : {recordName, indexFileName, lockFileName}) fs::remove(places.models / name, ignored);
+  for (const char* name : {indexFileName, lockFileName}) fs::remove(places.models / name, ignored);
   fs::remove(places.database / search::databaseFileName, ignored);
   fs::remove(places.models, ignored);
 }

@@ -20,7 +20,7 @@ EVERYBODYS = r"C:\Program Files\ActiveNeridaToolbar"
 MINE = r"C:\users\{user}\AppData\Local\Programs\ActiveNeridaToolbar"
 APPS = r"Software\Microsoft\Windows\CurrentVersion\Uninstall\ActiveNeridaToolbar"
 PRODUCT = r"Software\Tarnwell\Zephra"
-SETTINGS = r"HKCU\Software\VB and VBA Program Settings\Zephra\Toolbar"
+SETTINGS = r"Software\VB and VBA Program Settings\Zephra\Toolbar"
 FILES_IN_USE, FOR_EVERYBODY = 10, 11
 
 
@@ -46,6 +46,7 @@ def make_older_version(target):
 class InstallerCase(unittest.TestCase):
     maxDiff = None
     architecture = "win64"
+    script_hosts = ("syswow64", "sysnative")
 
     @classmethod
     def setUpClass(cls):
@@ -55,10 +56,21 @@ class InstallerCase(unittest.TestCase):
             shutil.rmtree(folder)
         cls.prefix = Prefix(folder, cls.architecture)
         (folder / "used").touch()
-        cls.before = cls.prefix.snapshot()
         cls.addClassCleanup(cls.prefix.stop)
         cls.scratch = Path(tempfile.mkdtemp())
         cls.addClassCleanup(shutil.rmtree, cls.scratch)
+        cls.settle()
+        cls.before = cls.prefix.snapshot()
+
+    @classmethod
+    def settle(cls):
+        """What is there after some days of use: a key for one's own classes, which Windows gives to every user, and the
+        interfaces that Wine's script hosts enter when they first run."""
+        cls.prefix.run("reg", "add", r"HKCU\Software\Classes", "/f")
+        script = cls.scratch / "nothing.vbs"
+        script.write_text('WScript.Echo "nothing"\n')
+        for folder in cls.script_hosts:
+            cls.prefix.run("cmd", "/c", rf"C:\windows\{folder}\cscript.exe", "//nologo", windows_path(script))
 
     def clean(self):
         (self.prefix.folder / "used").unlink()
@@ -128,8 +140,8 @@ class ForEverybody(InstallerCase):
         self.assertEqual(len(links), 1)
 
     def use_it(self):
-        self.run_script_client("syswow64")
-        self.run_script_client("sysnative")
+        for folder in self.script_hosts:
+            self.run_script_client(folder)
         self.assertIn("Old ", self.library("list"))
         self.assertIn("all whole", self.library("check"))
 
@@ -137,7 +149,7 @@ class ForEverybody(InstallerCase):
         model = self.scratch / "mine.obj"
         model.write_text("v 0 0 0\nv 1 0 0\nv 0 1 0\nv 0 0 1\nf 1 3 2\nf 1 2 4\nf 1 4 3\nf 2 3 4\n")
         self.library("add", windows_path(model), "--name", "Pyramid")
-        self.printed("reg", "add", SETTINGS, "/v", "Color0", "/d", "255", "/f")
+        self.printed("reg", "add", "HKCU\\" + SETTINGS, "/v", "Color0", "/d", "255", "/f")
         self.printed("reg", "add", "HKLM\\" + PRODUCT, "/v", "Expansion", "/d", "1", "/f", "/reg:32")
 
     def refuse_while_in_use(self):
@@ -162,7 +174,7 @@ class ForEverybody(InstallerCase):
         self.assertIn("Pyramid", models)
         self.assertNotIn("Old ", models)
         self.assertIn(f"{shipped + 1} models, all whole", self.library("check"))
-        self.assertIn('"Color0"', self.values(now, "HKCU", SETTINGS.removeprefix("HKCU\\")))
+        self.assertIn('"Color0"', self.values(now, "HKCU", SETTINGS))
         self.assertIn('"Expansion"', self.values(now, "HKLM", r"Software\Wow6432Node\Tarnwell\Zephra"))
         self.open_demo_host().close()
         self.run_script_client("sysnative")
@@ -172,6 +184,8 @@ class ForEverybody(InstallerCase):
         self.assertEqual(self.install("/CurrentUser"), FOR_EVERYBODY)
         self.assertNothingChanged(before)
 
+    # An expansion's entry was made by somebody else.
+    EXPANSION_KEY = "HKLM\\\\" + escaped(r"Software\Wow6432Node\Tarnwell\Zephra")
     OWN = [
         "+ Program Files/ActiveNeridaToolbar",
         "+ Program Files/ActiveNeridaToolbar/Models",
@@ -181,11 +195,17 @@ class ForEverybody(InstallerCase):
         "+ Program Files/ActiveNeridaToolbar/Models/dv50000/dv50000/dv50000",
         "+ Program Files/ActiveNeridaToolbar/Models/dv50000/dv50000/dv50000/dv50000.twe",
         "+ Program Files/ActiveNeridaToolbar/Models/index.txt",
+        "+ " + EXPANSION_KEY,
+        "+ " + EXPANSION_KEY + ' "Expansion"',
     ]
 
     def uninstall_all_but_ones_own(self):
         self.uninstall()
-        self.assertEqual(self.prefix.snapshot().changes_since(self.before), self.OWN)
+        now = self.prefix.snapshot()
+        self.assertIn('"Color0"', self.values(now, "HKCU", SETTINGS))
+        settings = "HKCU\\\\" + escaped(SETTINGS)
+        changes = now.changes_since(self.before)
+        self.assertEqual([line for line in changes if not line[2:].startswith(settings)], self.OWN)
 
     def take_ones_own_up_again(self):
         self.assertEqual(self.install(), 0)
@@ -201,6 +221,7 @@ class ForOnePerson(InstallerCase):
     """Without an administrator's rights, which Wine's users always have: they are waived by a switch. On 32-bit Windows,
     which has one kind of controls only."""
     architecture = "win32"
+    script_hosts = ("system32",)
 
     def test_life_of_an_installation(self):
         self.assertEqual(self.install("/CurrentUser"), 0)
@@ -209,7 +230,6 @@ class ForOnePerson(InstallerCase):
         self.borrow_classes()
         self.run_script_client("system32")
         self.open_demo_host(self.folder()).close()
-        self.printed("reg", "add", SETTINGS, "/v", "Color0", "/d", "255", "/f")
         # Found again without the switch: the installation is renewed where it is.
         self.assertEqual(self.install(), 0)
         self.return_classes()
@@ -244,10 +264,11 @@ class ForOnePerson(InstallerCase):
 
     def return_classes(self):
         """Back to what was there before."""
-        known = {key.replace("\\\\", "\\").lower() for key in self.before.registry}
+        known = [key.replace("\\\\", "\\").lower() + "\\" for key in self.before.registry]
         for key in self.borrowed:
-            if key.replace("HKEY_LOCAL_MACHINE", "HKLM").lower() not in known:
-                self.printed("reg", "delete", key, "/f")
+            below = key.replace("HKEY_LOCAL_MACHINE", "HKLM").lower() + "\\"
+            if not any(each.startswith(below) for each in known):
+                self.prefix.run("reg", "delete", key, "/f")
 
 
 if __name__ == "__main__":

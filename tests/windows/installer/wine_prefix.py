@@ -10,9 +10,11 @@ sys.path.insert(0, str(ROOT))
 
 from tools.session.probe import windows_path  # noqa: E402
 
-# What Wine itself changes at any time: temporary files, and what it remembers of windows, fonts and sessions.
+# What Wine itself changes at any time: temporary files, and what it remembers of windows, fonts and sessions. The
+# uninstaller works in a temporary copy of itself, which the session manager removes at the next start.
 RESTLESS_FILES = ("windows/temp/", "windows/Temp/", "/AppData/Local/Temp/", "users/root/Temp/")
-RESTLESS_KEYS = ("\\\\Volatile Environment", "Software\\\\Wine\\\\", "Control Panel\\\\", "\\\\Control\\\\Video\\\\", "\\\\Control\\\\Class\\\\",
+RESTLESS_KEYS = ("\\\\Volatile Environment", "Software\\\\Wine\\\\", "Control Panel\\\\", "HKCU\\\\Console",
+                 "\\\\Control\\\\Video\\\\", "\\\\Control\\\\Class\\\\", "\\\\Control\\\\Session Manager",
                  "\\\\Explorer\\\\", "HARDWARE\\\\", "\\\\Enum\\\\", "Fonts")
 
 
