@@ -256,7 +256,8 @@ class ForOnePerson(InstallerCase):
         """Wine looks for classes among everybody's only; Windows looks among one's own first."""
         file = self.scratch / "classes.reg"
         self.printed("reg", "export", r"HKCU\Software\Classes", windows_path(file), "/y")
-        borrowed = file.read_text("utf-16").replace("HKEY_CURRENT_USER", "HKEY_LOCAL_MACHINE")
+        heading, _, *below = file.read_text("utf-16").replace("HKEY_CURRENT_USER", "HKEY_LOCAL_MACHINE").split("\n[")
+        borrowed = "\n[".join([heading, *below])
         file.write_text(borrowed, "utf-16")
         self.printed("reg", "import", windows_path(file))
         self.borrowed = sorted({line[1:].partition("]")[0] for line in borrowed.splitlines() if line.startswith("[")},
