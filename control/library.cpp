@@ -18,7 +18,7 @@ Library::Library(const Platform& platform)
       lighting(state, platform.windows, desktop, paths, messages, toolbar),
       browser(state, platform.windows, paths, messages,
               {desktop, platform.prompts, settings, platform.shell, platform.files, platform.searchComponents}),
-      about(state, platform.windows, paths) {
+      about(state, platform.windows, platform.files, paths) {
   toolbar.connect({.lineThickness = &lineThicknessMenu,
                    .lineColors = &lineColors,
                    .surfaceColors = &surfaceColors,

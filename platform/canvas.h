@@ -9,9 +9,6 @@ namespace nerida {
 // System colours that drawings use, so that they follow the desktop's colour scheme.
 enum class SystemColor { selection = 13, buttonFace = 15, buttonShadow = 16, buttonHighlight = 20 };
 
-// Red + 256 green + 65536 blue.
-using Rgb = std::int32_t;
-
 // Where a picture box draws itself: straight lines and boxes, in twips from its top-left corner.
 class Canvas {
  public:

@@ -91,12 +91,17 @@ class Button : public Control {
 class StoredPicture {
  public:
   virtual ~StoredPicture() = default;
+  virtual Size size() const = 0;  // in pixels
 };
 
-// Shows a picture, in the middle and as large as its place allows without distorting it.
+// Shows a picture. Without a click of its own it lets the mouse through to what is below.
 class Image : public Control {
  public:
+  // In the middle of its place, and as large as that allows without distorting it.
   virtual void setPicture(std::shared_ptr<const StoredPicture> picture) = 0;
+  // Pixel for pixel: the control takes the picture's size.
+  virtual void takePicture(std::shared_ptr<const StoredPicture> picture) = 0;
+  virtual void setTop(Twips top) = 0;  // its size stays
 
   std::function<void()> click;
 };
@@ -104,6 +109,7 @@ class Image : public Control {
 class Label : public Control {
  public:
   virtual void setCaption(const std::string& text) = 0;
+  virtual void setBackground(Rgb color) = 0;  // a light one, below dark letters; the desktop's unless told otherwise
 
   // A label with one of these belongs to the drawn control that it captions; assistive tools are told of that one.
   std::function<void()> mouseMove;

@@ -24,9 +24,11 @@ struct ControlLayout {
   int index;
   ControlKind kind;
   Bounds bounds;
-  const char* text = "";     // caption or initial text; of a list or a preview its accessible name
+  const char* text = "";     // caption or initial text; of a list, a preview or a picture its accessible name
   const char* tooltip = "";  // also the accessible name of a control without one of its own
   Stretch stretch = {};      // on dialogs
+  // The picture box that it lies in, listed before it: its place is measured from there, and it is cut off there.
+  const char* container = nullptr;
 };
 
 // One entry of a form's menu bar: level 0 stands in the bar, an entry of a higher level belongs to the last entry above
@@ -50,7 +52,8 @@ enum class FormFrame {
 
 // A form as data. width is the width of the client area; height is the height of the whole window, caption and frame
 // included, because that is the height that the program switches when it folds parts of a form away. Of a dialog,
-// which is sized by its user, both are those of the client area below the menu.
+// which is sized by its user, both are those of the client area below the menu. A form that lies on a picture has its
+// size whatever the screen: there 15 twips are a pixel, however fine the screen is.
 struct FormLayout {
   const char* name;
   const char* caption;
@@ -59,6 +62,7 @@ struct FormLayout {
   Twips height;
   std::span<const ControlLayout> controls;
   std::span<const MenuLayout> menu = {};
+  bool onPicture = false;
 };
 
 }  // namespace nerida

@@ -13,7 +13,9 @@ enum class ShowCommand { hidden = 0, normal = 1 };
 class Shell {
  public:
   virtual ~Shell() = default;
-  // Opens a help file at its contents and index page. A missing file or viewer is not an error: nothing opens.
+  // Opens a help file at its contents and index page. Where it is missing or the system has no viewer for it, the page
+  // "Help\\index.htm" beside it opens instead, if there is one. Nothing to open is not an error. Never waits for
+  // anybody.
   virtual void openHelp(WindowHandle owner, const std::string& file) = 0;
   // Opens a file or an address with the program that is registered for it. False when the system cannot.
   virtual bool open(WindowHandle owner, const std::string& target, const std::string& workingFolder,

@@ -5,6 +5,9 @@
 
 namespace nerida {
 
+// Red + 256 green + 65536 blue.
+using Rgb = std::int32_t;
+
 // An opaque window identifier; 0 is no window. On Windows it is the HWND.
 using WindowHandle = std::intptr_t;
 

@@ -12,6 +12,7 @@
 #include "platform/form_menu.h"
 #include "platform/list_view.h"
 #include "platform/preview.h"
+#include "platform/timer.h"
 
 namespace nerida {
 
@@ -80,10 +81,12 @@ class Window {
   virtual Preview& preview(const std::string& name) = 0;
   // The menu bar; without entries when the layout has none.
   virtual FormMenu& menu() = 0;
+  virtual Timer& timer() = 0;
 
   std::function<void()> activated;
   std::function<void()> deactivated;
-  std::function<void()> clicked;         // anywhere on the form outside its controls (labels and pictures forward)
+  // With any button, anywhere on the form outside its controls; labels and pictures that do not use the mouse forward.
+  std::function<void()> clicked;
   std::function<void()> mouseMoved;      // over the form outside its controls
   std::function<void()> mouseLeft;       // the pointer went from the form or one of its controls to another window
   std::function<void()> closeRequested;  // the user's close box; nothing else happens by itself

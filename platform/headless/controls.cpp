@@ -1,6 +1,8 @@
 #include "platform/headless/controls.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdio>
 #include <stdexcept>
 
 #include "platform/error.h"
@@ -84,6 +86,13 @@ bool Picture::key(Key pressed) {
   return keyDown && keyDown(pressed);
 }
 
+void StillPicture::takePicture(std::shared_ptr<const StoredPicture> value) {
+  const Size size = value ? value->size() : Size{};
+  place.width = {size.width * 15};
+  place.height = {size.height * 15};
+  picture = std::move(value);
+}
+
 void Caption::movePointer() const {
   if (mouseMove) mouseMove();
 }
@@ -110,6 +119,12 @@ void Caption::pressAndLeave() const {
 void Caption::setCaption(const std::string& value) {
   caption = value;
   note("caption " + value);
+}
+
+void Caption::setBackground(Rgb color) {
+  std::array<char, 16> written{};
+  std::snprintf(written.data(), written.size(), "on #%06X", static_cast<unsigned>(color));
+  note(written.data());
 }
 
 }  // namespace nerida::headless

@@ -102,6 +102,8 @@ class StillPicture : public Basic<Image> {
  public:
   using Basic::Basic;
   void setPicture(std::shared_ptr<const StoredPicture> value) override { picture = std::move(value); }
+  void takePicture(std::shared_ptr<const StoredPicture> value) override;
+  void setTop(Twips top) override { place.top = top; }
   void press() const {
     if (click) click();
   }
@@ -113,6 +115,7 @@ class Caption : public Basic<Label> {
  public:
   using Basic::Basic;
   void setCaption(const std::string& value) override;
+  void setBackground(Rgb color) override;
 
   void movePointer() const;
   void press() const;

@@ -18,6 +18,15 @@ std::string nameIn(const std::string& path, const std::string& file) {
   return lower(target) == lower(path) ? file.substr(folderEnd) : "";
 }
 
+class PictureOfSize : public StoredPicture {
+ public:
+  explicit PictureOfSize(Size size) : known(size) {}
+  Size size() const override { return known; }
+
+ private:
+  Size known;
+};
+
 bool contains(const std::set<std::string>& files, const std::string& path) {
   return std::ranges::any_of(files, [&](const std::string& file) { return lower(file) == lower(path); });
 }
@@ -43,7 +52,8 @@ std::shared_ptr<const StoredPicture> MemoryFiles::loadPicture(const std::string&
   transcript.add("picture " + path);
   if (!contains(files, path)) throw Error(error::fileNotFound);
   if (!contains(pictures, path)) throw Error(error::invalidPicture);
-  return std::make_shared<StoredPicture>();
+  const auto size = sizes.find(path);
+  return std::make_shared<PictureOfSize>(size == sizes.end() ? Size{1, 1} : size->second);
 }
 
 }  // namespace nerida::headless

@@ -23,6 +23,7 @@ class MemoryFiles : public Files {
   std::set<std::string> files;
   std::set<std::string> hiddenFiles;
   std::set<std::string> pictures;         // files that hold one
+  std::map<std::string, Size> sizes;      // of pictures that are larger than one pixel
   std::map<std::string, Error> failures;  // of listing a path
 
  private:

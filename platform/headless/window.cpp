@@ -27,6 +27,7 @@ FormWindow::FormWindow(Windows& windows, const FormLayout& layout, WindowHandle 
       height(layout.height),
       layout(layout),
       menuBar(windows.transcript, layout.menu),
+      clock(windows.transcript, layout.name),
       windows(windows),
       number(handle) {
   createControls();
@@ -46,6 +47,7 @@ void FormWindow::dispose() {
   std::erase(windows.living, this);
   visible = false;
   disposed = true;
+  clock.stopWithItsForm();
   note("unload");
   windows.gone.emplace_back(this);
 }

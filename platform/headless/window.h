@@ -13,6 +13,7 @@
 #include "platform/headless/form_menu.h"
 #include "platform/headless/list_view.h"
 #include "platform/headless/preview.h"
+#include "platform/headless/timer.h"
 #include "platform/window.h"
 
 namespace nerida::headless {
@@ -52,6 +53,7 @@ class FormWindow : public Window {
   ListView& listView(const std::string& name) override { return *find(lists, name, 0); }
   Preview& preview(const std::string& name) override { return *find(previews, name, 0); }
   FormMenu& menu() override { return menuBar; }
+  Timer& timer() override { return clock; }
 
   // The headless faces of the controls.
   Bar& bar(const std::string& name, int index = 0) { return *find(bars, name, index); }
@@ -76,6 +78,7 @@ class FormWindow : public Window {
   Twips height;
   const FormLayout& layout;
   MenuBar menuBar;
+  Clock clock;
   // What the procedure behind the hook was handed, and what it answers.
   std::vector<Message> passedOn;
   std::intptr_t previousAnswer = 0;

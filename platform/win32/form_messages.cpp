@@ -169,9 +169,13 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       pointerLeft();
       break;
     case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+    case WM_MBUTTONDOWN:
       clickStarted = true;
       return 0;
     case WM_LBUTTONUP:
+    case WM_RBUTTONUP:
+    case WM_MBUTTONUP:
       if (std::exchange(clickStarted, false)) raise(clicked);
       return 0;
     case WM_CLOSE:

@@ -30,6 +30,7 @@ void FormWindow::showModal() {
   const Use use(*this);
   centre(HWND_TOPMOST);  // the toolbar is: the window that waits for an answer must not lie under it
   modal = true;
+  setOwner(GetActiveWindow());
   std::pair<HWND, std::vector<HWND>*> enumeration(hwnd, &disabledForModal);
   EnumThreadWindows(GetCurrentThreadId(), disableWindow, reinterpret_cast<LPARAM>(&enumeration));
   ShowWindow(hwnd, SW_SHOW);
@@ -48,6 +49,12 @@ void FormWindow::showModal() {
   endModal();
 }
 
+// It belongs to the window that was active: the system keeps it above that one, and desktops give it the keyboard. That
+// ends with its modal display, or it would go with its owner.
+void FormWindow::setOwner(HWND owner) {
+  if (hwnd != nullptr && owner != hwnd) SetWindowLongPtrW(hwnd, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
+}
+
 // The others must be able to take the activation by the time the form goes, or another application gets it.
 void FormWindow::endModal() {
   if (!modal) return;
@@ -56,6 +63,7 @@ void FormWindow::endModal() {
     if (IsWindow(window)) EnableWindow(window, TRUE);
   }
   disabledForModal.clear();
+  setOwner(nullptr);
   PostMessageW(nullptr, WM_NULL, 0, 0);  // the loop may be asleep
 }
 

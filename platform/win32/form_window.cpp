@@ -83,7 +83,7 @@ FormWindow::FormWindow(const FormLayout& layout)
     : layout(layout),
       frame(layout.frame),
       paintsControls(canPaintControls(layout)),
-      screenScale(Scale::ofScreen()),
+      screenScale(layout.onPicture ? Scale::ofPictures() : Scale::ofScreen()),
       menuBar(layout.menu),
       messageFont(createMessageFont()) {}
 
@@ -163,6 +163,15 @@ void FormWindow::createControls(std::span<const ControlLayout> rows) {
   for (const ControlLayout& row : rows) {
     if (!isInFront(row)) controls.push_back(makeControl(*this, row));
   }
+}
+
+HWND FormWindow::windowAround(const ControlLayout& row) const {
+  if (row.container == nullptr) return hwnd;
+  const auto around = std::ranges::find_if(controls, [&](const std::unique_ptr<NativeControl>& control) {
+    return std::string_view(control->layout().name) == row.container;
+  });
+  if (around == controls.end()) throw std::logic_error(std::string("no such container: ") + row.container);
+  return (*around)->window();
 }
 
 void FormWindow::dispose() {

@@ -13,6 +13,7 @@
 #include "platform/win32/module.h"
 #include "platform/win32/native_control.h"
 #include "platform/win32/scale.h"
+#include "platform/win32/timer.h"
 #include "platform/win32/tooltips.h"
 #include "platform/win32/window_class.h"
 #include "platform/window.h"
@@ -56,6 +57,7 @@ class FormWindow final : public Window {
   ListView& listView(const std::string& name) override;
   Preview& preview(const std::string& name) override;
   FormMenu& menu() override { return menuBar; }
+  Timer& timer() override { return formTimer; }
 
   // For the controls.
   HWND window() const { return hwnd; }
@@ -65,6 +67,8 @@ class FormWindow final : public Window {
   Tooltips& tooltips() { return *tips; }
   // Where a control lies on the form, in pixels of its client area.
   RECT place(const ControlLayout& row) const;
+  // The window that a control lies in: the form's, or that of its container.
+  HWND windowAround(const ControlLayout& row) const;
   // Whether the form is sized by its user, and is moved through like a dialog.
   bool isDialog() const { return frame == FormFrame::dialog; }
   // The topmost control at a point of the client area.
@@ -142,6 +146,7 @@ class FormWindow final : public Window {
   NativeControl* controlOf(HWND window) const;
   void leaveUnreachableFocus();
   void centre(HWND after);
+  void setOwner(HWND owner);
   void endModal();
   template <class Interface>
   Interface& find(const std::string& name, int index);
@@ -153,6 +158,7 @@ class FormWindow final : public Window {
   const WindowClasses classes;
   const Scale screenScale;
   SystemFormMenu menuBar;
+  SystemTimer formTimer{*this};
   UniqueFont messageFont;
   BackBuffer buffer;
   std::vector<std::unique_ptr<NativeControl>> controls;

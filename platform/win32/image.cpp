@@ -24,7 +24,7 @@ SIZE sizeIn(SIZE room, const Picture& picture) {
 
 }  // namespace
 
-SystemImage::SystemImage(FormWindow& owner, const ControlLayout& row) : ControlOf(owner, row) {
+SystemImage::SystemImage(FormWindow& owner, const ControlLayout& row) : ControlOf(owner, row), current(row.bounds) {
   createOwn(pictureBoxClass, 0);
 }
 
@@ -34,10 +34,31 @@ void SystemImage::setPicture(std::shared_ptr<const StoredPicture> picture) {
   InvalidateRect(window(), nullptr, TRUE);
 }
 
+void SystemImage::takePicture(std::shared_ptr<const StoredPicture> picture) {
+  const Size size = picture ? picture->size() : Size{};
+  current.width = form().scale().twipsX(size.width);
+  current.height = form().scale().twipsY(size.height);
+  place();
+  setPicture(std::move(picture));
+}
+
+void SystemImage::setTop(Twips top) {
+  current.top = top;
+  place();
+}
+
+void SystemImage::place() {
+  const RECT at = form().scale().pixels(current);
+  SetWindowPos(window(), nullptr, at.left, at.top, at.right - at.left, at.bottom - at.top,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 SIZE SystemImage::fit() {
   const SIZE wanted = sizeIn(size(), shownPicture->content);
   if (fitted && fittedSize.cx == wanted.cx && fittedSize.cy == wanted.cy) return wanted;
-  fitted = bitmapOf(scaled(shownPicture->content, wanted.cx, wanted.cy));
+  const Picture& content = shownPicture->content;
+  const bool isSame = content.width == wanted.cx && content.height == wanted.cy;
+  fitted = bitmapOf(isSame ? content : scaled(content, wanted.cx, wanted.cy));
   return fittedSize = wanted;
 }
 
@@ -54,6 +75,9 @@ LRESULT SystemImage::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   const POINT point = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
   if (drawOnRequest(window(), message, wParam, [this](HDC target) { paintOn(target); })) return 0;
   switch (message) {
+    case WM_NCHITTEST:
+      if (!click) return HTTRANSPARENT;
+      break;
     case WM_SIZE:
       InvalidateRect(window(), nullptr, TRUE);
       break;

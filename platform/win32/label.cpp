@@ -4,7 +4,7 @@
 
 #include "platform/win32/accessible_name.h"
 #include "platform/win32/form_window.h"
-#include "platform/win32/handles.h"
+#include "platform/win32/paint_scope.h"
 #include "platform/win32/text.h"
 
 namespace nerida {
@@ -18,8 +18,18 @@ SystemLabel::SystemLabel(FormWindow& owner, const ControlLayout& row) : ControlO
 
 void SystemLabel::setCaption(const std::string& text) { SetWindowTextW(window(), wide(text).c_str()); }
 
+void SystemLabel::setBackground(Rgb color) {
+  background.reset(CreateSolidBrush(static_cast<COLORREF>(color)));
+  InvalidateRect(window(), nullptr, TRUE);
+}
+
 LRESULT SystemLabel::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   const POINT point = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+  if (background) {
+    if (message == WM_ERASEBKGND) return TRUE;
+    if (drawOnRequest(window(), message, wParam, [this](HDC target) { draw(target); })) return 0;
+    if (message == WM_SETTEXT) InvalidateRect(window(), nullptr, FALSE);
+  }
   if (!hasMouse()) return ControlOf::onMessage(message, wParam, lParam);
   switch (message) {
     case WM_NCHITTEST:
@@ -50,16 +60,18 @@ LRESULT SystemLabel::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   return ControlOf::onMessage(message, wParam, lParam);
 }
 
-// As the system's label does; not all systems let it draw into another context.
+// As the system's label does; not all systems let it draw into another context. On a background of its own its letters
+// stay dark in every colour scheme.
 void SystemLabel::draw(HDC target) {
   const SIZE extent = size();
   RECT area = {0, 0, extent.cx, extent.cy};
-  FillRect(target, &area, GetSysColorBrush(COLOR_BTNFACE));
+  FillRect(target, &area, background ? background.get() : GetSysColorBrush(COLOR_BTNFACE));
   std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window())), L'\0');
   GetWindowTextW(window(), text.data(), static_cast<int>(text.size()) + 1);
   const Selected font(target, form().font());
   SetBkMode(target, TRANSPARENT);
-  SetTextColor(target, GetSysColor(IsWindowEnabled(window()) ? COLOR_BTNTEXT : COLOR_GRAYTEXT));
+  const COLORREF usual = GetSysColor(IsWindowEnabled(window()) ? COLOR_BTNTEXT : COLOR_GRAYTEXT);
+  SetTextColor(target, background ? RGB(0, 0, 0) : usual);
   DrawTextW(target, text.c_str(), -1, &area, DT_LEFT | DT_NOPREFIX | DT_EXPANDTABS | DT_WORDBREAK);
 }
 

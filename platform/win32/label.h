@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/win32/handles.h"
 #include "platform/win32/native_control.h"
 
 namespace nerida {
@@ -8,6 +9,7 @@ class SystemLabel final : public ControlOf<Label> {
  public:
   SystemLabel(FormWindow& owner, const ControlLayout& row);
   void setCaption(const std::string& text) override;
+  void setBackground(Rgb color) override;
 
  private:
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -15,6 +17,8 @@ class SystemLabel final : public ControlOf<Label> {
   void onButtonUp(POINT point);
   void draw(HDC target) override;
   void onHidden() override;
+
+  UniqueBrush background;  // of its own; none for the desktop's
 };
 
 }  // namespace nerida

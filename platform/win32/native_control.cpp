@@ -1,5 +1,8 @@
 #include "platform/win32/native_control.h"
 
+#include <algorithm>
+#include <array>
+
 #include "platform/error.h"
 #include "platform/win32/form_window.h"
 #include "platform/win32/module.h"
@@ -11,17 +14,19 @@ NativeControl::NativeControl(FormWindow& owner, const ControlLayout& row) : pare
 
 std::wstring NativeControl::accessibleName() const {
   if (*place.tooltip != '\0') return wide(place.tooltip);
-  const bool isNamed = place.kind == ControlKind::listView || place.kind == ControlKind::preview;
+  constexpr std::array named = {ControlKind::listView, ControlKind::preview, ControlKind::image,
+                                ControlKind::pictureBox};
+  const bool isNamed = std::ranges::find(named, place.kind) != named.end();
   return wide(isNamed && *place.text != '\0' ? place.text : place.name);
 }
 
 HWND NativeControl::createWindow(const wchar_t* windowClass, const wchar_t* text, DWORD style, DWORD extendedStyle,
                                  int height, void* parameter) {
   const RECT at = area();
-  const HWND window =
-      CreateWindowExW(extendedStyle | WS_EX_NOPARENTNOTIFY, windowClass, text,
-                      style | WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, at.left, at.top, at.right - at.left,
-                      height != 0 ? height : at.bottom - at.top, parent.window(), nullptr, moduleInstance(), parameter);
+  const HWND window = CreateWindowExW(extendedStyle | WS_EX_NOPARENTNOTIFY, windowClass, text,
+                                      style | WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, at.left, at.top,
+                                      at.right - at.left, height != 0 ? height : at.bottom - at.top,
+                                      parent.windowAround(place), nullptr, moduleInstance(), parameter);
   if (window == nullptr) throw Error(error::outOfMemory);
   return window;
 }

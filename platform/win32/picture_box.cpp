@@ -12,7 +12,7 @@
 namespace nerida {
 
 SystemPictureBox::SystemPictureBox(FormWindow& owner, const ControlLayout& row) : ControlOf(owner, row) {
-  createOwn(pictureBoxClass, 0);
+  createOwn(pictureBoxClass, WS_CLIPCHILDREN);
 }
 
 SystemPictureBox::~SystemPictureBox() {

@@ -39,17 +39,15 @@ bool SystemPictureBox::onMouse(UINT message, LPARAM lParam) {
       return true;
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
-      clickStarted = true;
-      [[fallthrough]];
     case WM_RBUTTONDOWN:
     case WM_MBUTTONDOWN:
+      clickStarted = true;
       onButtonDown(point);
       return true;
     case WM_LBUTTONUP:
-      if (std::exchange(clickStarted, false) && !mouseDown && !mouseUp) form().raise(form().clicked);
-      [[fallthrough]];
     case WM_RBUTTONUP:
     case WM_MBUTTONUP:
+      if (std::exchange(clickStarted, false) && !mouseDown && !mouseUp) form().raise(form().clicked);
       onButtonUp(point);
       return true;
     default:

@@ -17,6 +17,7 @@ class Scale {
     ReleaseDC(nullptr, screen);
     return scale;
   }
+  static Scale ofPictures() { return {USER_DEFAULT_SCREEN_DPI, USER_DEFAULT_SCREEN_DPI}; }
   Scale(int x, int y) : dpiX(x), dpiY(y) {}
 
   int pixelsX(Twips length) const { return pixels(length, dpiX); }

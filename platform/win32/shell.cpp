@@ -4,6 +4,7 @@
 
 #include <shellapi.h>
 
+#include "platform/win32/handles.h"
 #include "platform/win32/module.h"
 #include "platform/win32/text.h"
 
@@ -27,16 +28,38 @@ bool shellOpen(WindowHandle owner, const std::wstring& target, const std::wstrin
   return reinterpret_cast<INT_PTR>(result) > lastFailure;
 }
 
+// The viewer waits in a question to the user, and its caller with it, when it is given anything else.
+bool isHelpFile(const std::wstring& path) {
+  constexpr DWORD helpFileMark = 0x00035F3F;
+  const HANDLE opened = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+  if (opened == INVALID_HANDLE_VALUE) return false;
+  const UniqueFile file(opened);
+  DWORD mark = 0;
+  DWORD read = 0;
+  return ReadFile(file.get(), &mark, sizeof mark, &read, nullptr) && read == sizeof mark && mark == helpFileMark;
+}
+
+// Systems that have given the old viewer up keep a little program in its place that only says so.
+bool hasHelpViewer() {
+  constexpr DWORD largestPlaceholder = 64 * 1024;
+  std::wstring viewer(MAX_PATH, L'\0');
+  viewer.resize(GetWindowsDirectoryW(viewer.data(), MAX_PATH));
+  viewer += L"\\winhlp32.exe";
+  WIN32_FILE_ATTRIBUTE_DATA found = {};
+  return GetFileAttributesExW(viewer.c_str(), GetFileExInfoStandard, &found) && found.nFileSizeLow > largestPlaceholder;
+}
+
 }  // namespace
 
-// The system's help viewer waits in a question to the user while the file is missing, so it is not asked then.
 void SystemShell::openHelp(WindowHandle owner, const std::string& file) {
   const std::wstring path = wide(file);
-  if (!isFullPath(path) || !isExistingFile(path)) return;
+  if (!isFullPath(path)) return;
   const ModuleLock lock;
-  if (!WinHelpW(reinterpret_cast<HWND>(owner), path.c_str(), HELP_FINDER, 0)) {
-    shellOpen(owner, path, L"", SW_SHOWNORMAL);  // systems without the old viewer may have another
-  }
+  const bool canView = isHelpFile(path) && hasHelpViewer();
+  if (canView && WinHelpW(reinterpret_cast<HWND>(owner), path.c_str(), HELP_FINDER, 0)) return;
+  const std::wstring folder = path.substr(0, path.find_last_of(L"\\/")) + L"\\Help";
+  const std::wstring page = folder + L"\\index.htm";
+  if (isExistingFile(page)) shellOpen(owner, page, folder, SW_SHOWNORMAL);
 }
 
 bool SystemShell::open(WindowHandle owner, const std::string& target, const std::string& workingFolder,

@@ -144,6 +144,11 @@ class HeadlessSubject : public Subject {
   void close(Window& window) override { inner(window).userCloses(); }
   void click(Window& window) override { inner(window).userClicks(); }
 
+  void pass(Window& window, int milliseconds) override {
+    const headless::Clock& clock = inner(window).clock;
+    clock.pass(milliseconds / clock.milliseconds);
+  }
+
   void duringModal(std::function<void()> action) override {
     platform.windows.duringModal = [action](FormWindow&) { action(); };
   }

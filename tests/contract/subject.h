@@ -46,6 +46,8 @@ class Subject {
   virtual bool clickItem(Window& window, const std::string& list, int item) = 0;
   virtual void close(Window& window) = 0;
   virtual void click(Window& window) = 0;
+  // So many milliseconds pass, in which the program takes its messages.
+  virtual void pass(Window& window, int milliseconds) = 0;
   // Runs once, while the next modal window waits.
   virtual void duringModal(std::function<void()> action) = 0;
 

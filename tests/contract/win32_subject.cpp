@@ -200,6 +200,13 @@ class Win32Subject : public Subject {
     clickAt(windowOf(window), {client.right - 2, client.bottom - 2});
   }
 
+  void pass(Window&, int milliseconds) override {
+    for (const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(milliseconds); GetTickCount64() < end;) {
+      pump();
+      Sleep(1);
+    }
+  }
+
   void duringModal(std::function<void()> action) override {
     modalAction = std::move(action);
     SetTimer(nullptr, 0, 50, runModalAction);

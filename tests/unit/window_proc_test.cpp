@@ -104,7 +104,8 @@ TEST_F(WindowProc, AnOpenAboutBoxIsTakenDownWithTheCatalog) {
     lose();
   };
   control->ShowAboutBox();
-  EXPECT_THAT(take(), ElementsAre("frmAbout: hide", "frmBrowser: hide", "frmAbout: modal end", "frmAbout: unload"));
+  EXPECT_THAT(take(), ElementsAre("frmAbout: hide", "frmAbout: timer off", "frmBrowser: hide", "frmAbout: modal end",
+                                  "frmAbout: unload"));
 }
 
 class WindowProcFailure : public testing::TestWithParam<const char*>, protected Desk {};

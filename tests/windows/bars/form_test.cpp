@@ -216,6 +216,19 @@ TEST_F(Forms, AreClickedAlsoThroughPicturesAndNowhereElse) {
   EXPECT_EQ(clicks, 2);
 }
 
+TEST_F(Forms, AreClickedWithAnyButton) {
+  int clicks = 0;
+  form->clicked = [&] { ++clicks; };
+  form->pictureBox("picAni").setVisible(true);
+  for (const HWND where : {window(), windowOf(form->pictureBox("picAni"))}) {
+    for (const UINT down : {WM_LBUTTONDOWN, WM_RBUTTONDOWN, WM_MBUTTONDOWN}) {
+      SendMessageW(where, down, 0, MAKELPARAM(3, 3));
+      SendMessageW(where, down + 1, 0, MAKELPARAM(3, 3));
+    }
+  }
+  EXPECT_EQ(clicks, 6);
+}
+
 void CALLBACK onTimer(HWND window, UINT, UINT_PTR timer, DWORD) {
   KillTimer(window, timer);
   (*reinterpret_cast<std::function<void()>*>(timer))();

@@ -214,6 +214,7 @@ Sub CarryOut
     Case "dispose" : Answer control.ToolbarDispose()
     Case "catalog" : Answer control.ShowCatalog()
     Case "about" : Answer TypeName(control.ShowAboutBox())
+    Case "help" : Answer TypeName(control.ShowHelp())
     Case "visible" : Answer control.IsToolbarVisible() & " " & control.IsCatalogVisible()
     Case "set" : SetFields
     Case "raise" : SetRaising words(1), words(2)

@@ -10,7 +10,6 @@ from tools.session.probe import windows_path
 KEY = r"HKLM\Software\Tarnwell\Zephra"
 VERSION_KEY = KEY + r"\1.0"
 SEARCHES = r"HKCU\Software\VB and VBA Program Settings\Zephra\Browser"
-BROWSER = r"HKLM\Software\Classes\https\shell\open\command"
 DRIVES = r"HKLM\Software\Wine\Drives"
 
 
@@ -47,19 +46,39 @@ def without(control, arch):
 
 
 @contextlib.contextmanager
-def without_browser():
-    """As long as pages on the web cannot be opened."""
+def opening(kind, command):
+    """As long as what is of that kind, "https" or "htmlfile", is opened by the command."""
+    key = rf"HKLM\Software\Classes\{kind}\shell\open\command"
     views = ("/reg:32", "/reg:64")
-    done = subprocess.run(["wine", "reg", "query", BROWSER, "/ve"], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+    done = subprocess.run(["wine", "reg", "query", key, "/ve"], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                           stderr=subprocess.DEVNULL, text=True, check=True)
-    command = done.stdout.split("REG_SZ", 1)[1].strip()
+    before = done.stdout.split("REG_SZ", 1)[1].strip()
     for view in views:
-        _wine("reg", "add", BROWSER, "/ve", "/d", r"C:\nobody.exe", "/f", view)
+        _wine("reg", "add", key, "/ve", "/d", command, "/f", view)
     try:
         yield
     finally:
         for view in views:
-            _wine("reg", "add", BROWSER, "/ve", "/d", command, "/f", view)
+            _wine("reg", "add", key, "/ve", "/d", before, "/f", view)
+
+
+@contextlib.contextmanager
+def pages_opened_by(command):
+    """As long as the command opens pages, on the disk and on the web. Not every system knows pages on the disk."""
+    extension, views = r"HKLM\Software\Classes\.htm", ("/reg:32", "/reg:64")
+    for view in views:
+        _wine("reg", "add", extension, "/ve", "/d", "htmlfile", "/f", view)
+    try:
+        with opening("https", command), opening("htmlfile", command):
+            yield
+    finally:
+        for view in views:
+            _wine("reg", "delete", extension, "/f", view, check=False)
+
+
+def without_browser():
+    """As long as pages on the web cannot be opened."""
+    return opening("https", r"C:\nobody.exe")
 
 
 @contextlib.contextmanager

@@ -28,6 +28,7 @@ def main():
     programs.control = options.build / "activex" / "ActiveNeridaToolbar.ocx"
     programs.resources = options.build / "assets"
     programs.script_host = options.build / "tests" / "windows" / "com" / "script_host.exe"
+    programs.recorder = options.build / "tests" / "windows" / "session" / "recorder.exe"
     programs.search = options.build / "tests" / "windows" / "catalog" / "prepared_search.dll"
     programs.preview = options.build / "host" / "preview" / "ZephraPreview.ocx"
     programs.host = options.build / "host" / "app" / "zephra-host.exe"
