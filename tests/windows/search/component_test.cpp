@@ -289,6 +289,7 @@ TEST_F(SearchComponent, ReadsTheUsersOwnInstallationWhereTheMachineHasNone) {
                   static_cast<DWORD>((folder.wstring().size() + 1) * sizeof(wchar_t)));
   EXPECT_EQ(namesFor(L"boat").size(), 1U);
   RegDeleteKeyW(HKEY_CURRENT_USER, own);
+  RegDeleteKeyW(HKEY_CURRENT_USER, L"Software\\Tarnwell");
 }
 
 TEST_F(SearchComponent, SeesAChangeWithTheNextSearch) {
