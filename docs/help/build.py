@@ -83,13 +83,22 @@ def write_pages(topics, target):
     (target / "expansion.htm").write_text(page(expansion, topics, "Help/"), encoding="utf-8")
 
 
+def without_time(help_file):
+    """The file without the time of its making: the same text gives the same bytes, and nothing is packed anew."""
+    mark = b"\x6c\x03\x21\x00\x01\x00"  # the beginning of the part that describes the file; the time is next
+    if help_file.count(mark) != 1:
+        raise ValueError("the help file is not built as expected")
+    start = help_file.index(mark) + len(mark)
+    return help_file[:start] + bytes(4) + help_file[start + 4:]
+
+
 def write_help_file(topics, target):
     with tempfile.TemporaryDirectory() as folder:
         text = Path(folder) / "help.but"
         text.write_text(halibut.document("Zephra Help", topics), encoding="utf-8")
         subprocess.run(["halibut", "--winhelp=Zephra.hlp", text.name], cwd=folder, check=True)
-        for name in ("Zephra.hlp", "Zephra.cnt"):
-            shutil.copy(Path(folder) / name, target)
+        (target / "Zephra.hlp").write_bytes(without_time((Path(folder) / "Zephra.hlp").read_bytes()))
+        shutil.copy(Path(folder) / "Zephra.cnt", target)
 
 
 def main():
