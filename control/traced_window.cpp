@@ -32,7 +32,7 @@ template <class Body>
 auto TracedWindow::traced(const char* method, Body body) {
   if (!trace) return body();
   TracedCall line(trace, method, "()");
-  const auto result = body();
+  auto result = body();
   line.returned(result);
   return result;
 }

@@ -167,9 +167,8 @@ class Model : public IDispatch {
 
  private:
   DISPID named(const wchar_t* name) {
-    const auto id = static_cast<DISPID>(names.size() + 1);
-    names[id] = name;
-    return id;
+    names[++lastId] = name;
+    return lastId;
   }
   void property(const wchar_t* name, VARIANT value) { values[named(name)] = value; }
   void method(const wchar_t* name, Method action) { methods[named(name)] = std::move(action); }
@@ -197,6 +196,7 @@ class Model : public IDispatch {
     return VariantCopy(&values[id], &value);
   }
 
+  DISPID lastId = 0;
   std::map<DISPID, std::wstring> names;
   std::map<DISPID, VARIANT> values;
   std::map<DISPID, Method> methods;
