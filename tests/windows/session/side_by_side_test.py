@@ -57,10 +57,13 @@ class SideBySide(unittest.TestCase):
 
     def press(self, toolbar, name):
         button = lambda: self.probe.element(toolbar, name, PUSH_BUTTON)  # noqa: E731
-        place = desktop.centre(button()["rect"])
-        desktop.move(place)
-        wait_for(lambda: button()["state"] & HOT, what=f"{name} under the pointer")
-        desktop.click(place)
+
+        def lit():  # its window may still be on its way to its place
+            desktop.move(desktop.centre(button()["rect"]))
+            return button()["state"] & HOT
+
+        wait_for(lit, what=f"{name} under the pointer")
+        desktop.click(desktop.centre(button()["rect"]))
 
     def unfold(self, toolbar):
         self.press(toolbar, "Model Orientation")
