@@ -67,6 +67,7 @@ bool isOurs(HWND window) {
 TEST_F(Handles, OfTheToolbarNamesItsWindow) {
   const auto window = static_cast<HWND>(LongToHandle(showToolbar(50, 60)));
   EXPECT_TRUE(IsWindow(window));
+  EXPECT_EQ(GetAncestor(window, GA_ROOT), window) << "the whole handle";
   EXPECT_TRUE(IsWindowVisible(window));
   EXPECT_TRUE(isOurs(window));
   EXPECT_TRUE(isTitled(window, L"Zephra Toolbar"));
@@ -77,6 +78,7 @@ TEST_F(Handles, OfTheCatalogNamesItsWindow) {
   ASSERT_EQ(control->ShowCatalog(&number), S_OK);
   const auto window = static_cast<HWND>(LongToHandle(number));
   EXPECT_TRUE(IsWindow(window));
+  EXPECT_EQ(GetAncestor(window, GA_ROOT), window) << "the whole handle";
   EXPECT_TRUE(IsWindowVisible(window));
   EXPECT_TRUE(isOurs(window));
   EXPECT_TRUE(isTitled(window, L"Zephra Catalog"));
