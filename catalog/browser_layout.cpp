@@ -7,10 +7,6 @@
 namespace nerida {
 namespace {
 
-constexpr Bounds at(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height) {
-  return {{left}, {top}, {width}, {height}};
-}
-
 constexpr std::int32_t formWidth = 9900;
 constexpr std::int32_t formHeight = 6600;
 constexpr std::int32_t margin = 150;

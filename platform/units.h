@@ -38,4 +38,9 @@ struct Bounds {
   friend constexpr bool operator==(const Bounds&, const Bounds&) = default;
 };
 
+// Bounds as layouts write them, in twips.
+constexpr Bounds at(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height) {
+  return {{left}, {top}, {width}, {height}};
+}
+
 }  // namespace nerida

@@ -11,7 +11,7 @@
 namespace nerida {
 namespace {
 
-std::string_view trimmed(std::string_view text) {
+std::string_view withoutBlanks(std::string_view text) {
   const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
   while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
   while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
@@ -63,7 +63,7 @@ std::optional<double> radixNumber(std::string_view text) {
 }
 
 double wholeNumber(const std::string& text) {
-  const std::string_view body = trimmed(text);
+  const std::string_view body = withoutBlanks(text);
   std::size_t length = 0;
   const std::optional<double> number = decimalPrefix(body, length);
   if (!number || length != body.size()) throw Error(error::typeMismatch);
@@ -116,7 +116,7 @@ std::int32_t roundToInt32(double number) { return rounded<std::int32_t>(number);
 bool toBoolean(const Value& value) {
   if (std::holds_alternative<Null>(value)) return false;
   if (const auto* text = std::get_if<std::string>(&value)) {
-    const std::string_view body = trimmed(*text);
+    const std::string_view body = withoutBlanks(*text);
     if (equalsIgnoringCase(body, "true") || body == "#TRUE#") return true;
     if (equalsIgnoringCase(body, "false") || body == "#FALSE#") return false;
   }
@@ -135,7 +135,7 @@ std::string toText(const Value& value) {
 }
 
 bool isNumeric(const std::string& text) {
-  const std::string_view body = trimmed(text);
+  const std::string_view body = withoutBlanks(text);
   std::size_t length = 0;
   return decimalPrefix(body, length).has_value() && length == body.size();
 }

@@ -8,10 +8,6 @@
 namespace nerida {
 namespace {
 
-constexpr Bounds at(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height) {
-  return {{left}, {top}, {width}, {height}};
-}
-
 constexpr std::int32_t styleTop = 105;
 constexpr std::int32_t moreTop = 2385;
 constexpr std::int32_t labelInset = 60;

@@ -5,10 +5,6 @@
 namespace nerida {
 namespace {
 
-constexpr Bounds at(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height) {
-  return {{left}, {top}, {width}, {height}};
-}
-
 constexpr std::int32_t button = 375;  // side of a square button
 constexpr std::int32_t margin = 60;
 constexpr std::int32_t frame = 90;  // of a popup's window, both edges together

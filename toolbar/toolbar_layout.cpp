@@ -5,10 +5,6 @@
 namespace nerida {
 namespace {
 
-constexpr Bounds at(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height) {
-  return {{left}, {top}, {width}, {height}};
-}
-
 constexpr std::int32_t row1 = 0;
 constexpr std::int32_t row2 = 435;  // below the folded window's lower edge at every screen resolution
 constexpr std::int32_t barHeight = 375;

@@ -162,7 +162,7 @@ void getThickness(const Model& model, VARIANT* result) {
   result->iVal = static_cast<SHORT>(model.scene.lineThicknessScale());
 }
 
-constexpr ModelMember members[] = {
+constexpr ModelMember memberTable[] = {
     {.name = L"ModelName", .get = get<nameOf>, .let = letModelName},
     {.name = L"TarnwellXFile", .let = letFile},
     {.name = L"ModelScale", .let = letScale},
@@ -212,6 +212,6 @@ constexpr ModelMember members[] = {
 
 }  // namespace
 
-std::span<const ModelMember> modelMembers() { return members; }
+std::span<const ModelMember> modelMembers() { return memberTable; }
 
 }  // namespace nerida::host

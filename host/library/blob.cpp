@@ -76,7 +76,7 @@ Piece row(Fields& fields, const Transform& placement) {
   return piece;
 }
 
-std::vector<Piece> piecesOf(Fields& fields) {
+std::vector<Piece> blobPieces(Fields& fields) {
   std::vector<Piece> pieces;
   for (const nlohmann::json& child : fields.raw("of")) {
     Fields part(child, fields.where());
@@ -119,7 +119,7 @@ struct Bounds {
 
 Mesh blobShape(Fields& fields) {
   const double softness = fields.number("blob");
-  const std::vector<Piece> pieces = piecesOf(fields);
+  const std::vector<Piece> pieces = blobPieces(fields);
   const int cells = std::clamp(fields.integer("segments", 24), 8, 96);
   Bounds bounds;
   for (const Piece& piece : pieces) bounds.add(piece);

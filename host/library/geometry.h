@@ -2,9 +2,12 @@
 
 #include <array>
 #include <cstdint>
+#include <numbers>
 #include <vector>
 
 namespace nerida::library {
+
+inline constexpr double pi = std::numbers::pi;
 
 struct Vec {
   double x = 0, y = 0, z = 0;

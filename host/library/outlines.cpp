@@ -2,12 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace nerida::library {
 namespace {
-
-constexpr double pi = std::numbers::pi;
 
 Vec onCircle(double radius, double angle) { return {radius * std::cos(angle), radius * std::sin(angle), 0}; }
 

@@ -2,12 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace nerida::library {
 namespace {
 
-constexpr double pi = std::numbers::pi;
 constexpr int rimSteps = 2;
 
 /// A narrow edge of a box needs no more than a chamfer, whose smooth shading looks round.

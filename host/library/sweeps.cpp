@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 #include "host/library/curves.h"
 #include "host/library/shapes.h"
@@ -8,7 +7,6 @@
 namespace nerida::library {
 namespace {
 
-constexpr double pi = std::numbers::pi;
 constexpr int rimSteps = 2;
 
 /// An inset that is wider than a corner's curve turns some edges around: those are drawn together into one point.

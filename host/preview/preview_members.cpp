@@ -30,7 +30,7 @@ void load(Preview& preview, const Arguments&, VARIANT*) {
   }
 }
 
-constexpr Member<Preview> members[] = {
+constexpr Member<Preview> memberTable[] = {
     {.name = L"ModelFile", .get = getFile, .let = letFile},
     {.name = L"ModelName", .get = getName, .let = letName},
     {.name = L"StyleName", .get = getStyle},
@@ -41,6 +41,6 @@ constexpr Member<Preview> members[] = {
 
 }  // namespace
 
-std::span<const Member<Preview>> previewMembers() { return members; }
+std::span<const Member<Preview>> previewMembers() { return memberTable; }
 
 }  // namespace nerida::host

@@ -18,17 +18,11 @@ Hit hitOf(Statement& row) {
           Closeness::exact};
 }
 
-Database openOurs(const std::filesystem::path& file) {
-  Database database = Database::open(file);
-  requireSchema(database);
-  return database;
-}
-
 }  // namespace
 
 struct SearchEngine::Parts {
   explicit Parts(const EngineFiles& files)
-      : database(openOurs(files.database)), tokenizer(database), thesaurus(tokenizer), relevance(database) {
+      : database(openModelDatabase(files.database)), tokenizer(database), thesaurus(tokenizer), relevance(database) {
     thesaurus.read(files.thesaurus);
     thesaurus.read(files.userThesaurus);
   }

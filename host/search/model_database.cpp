@@ -19,12 +19,6 @@ void makeFolder(const fs::path& folder) {
   if (error) throw DatabaseError(DatabaseFault::other, folder.string() + ": the folder cannot be made");
 }
 
-Database openOurs(const fs::path& folder) {
-  Database database = Database::open(fileIn(folder));
-  requireSchema(database);
-  return database;
-}
-
 void fill(Database& database, const std::vector<ModelCard>& cards, const Progress& progress) {
   createSchema(database);
   Transaction change(database, Transaction::Kind::writing);
@@ -111,7 +105,7 @@ void buildDatabase(const fs::path& folder, const std::vector<ModelCard>& cards, 
 void changeDatabase(const fs::path& folder, const std::vector<ModelCard>& added,
                     const std::vector<std::int32_t>& removed) {
   if (isEmptyOrAbsent(fileIn(folder))) buildDatabase(folder, {});
-  Database database = openOurs(folder);
+  Database database = openModelDatabase(fileIn(folder));
   Transaction change(database, Transaction::Kind::writing);
   {
     ModelWriter writer(database);
@@ -126,7 +120,7 @@ void changeDatabase(const fs::path& folder, const std::vector<ModelCard>& added,
 }
 
 std::vector<ModelCard> readDatabase(const fs::path& folder) {
-  Database database = openOurs(folder);
+  Database database = openModelDatabase(fileIn(folder));
   Statement row(database,
                 "SELECT number, model.name, category, subcategory.name, keywords, flags FROM model "
                 "JOIN subcategory ON subcategory.id = model.subcategory ORDER BY number");
@@ -138,7 +132,7 @@ std::vector<ModelCard> readDatabase(const fs::path& folder) {
 std::vector<std::string> checkDatabase(const fs::path& folder) {
   std::vector<std::string> faults;
   try {
-    Database database = openOurs(folder);
+    Database database = openModelDatabase(fileIn(folder));
     lookForFaults(database, faults);
   } catch (const DatabaseError& error) {
     faults.emplace_back(error.what());

@@ -49,4 +49,10 @@ void requireSchema(Database& database) {
   if (database.number("PRAGMA user_version") != schemaVersion) database.refuse("it was made by another version");
 }
 
+Database openModelDatabase(const std::filesystem::path& file) {
+  Database database = Database::open(file);
+  requireSchema(database);
+  return database;
+}
+
 }  // namespace nerida::search

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 
 namespace nerida::search {
 
@@ -17,5 +18,8 @@ void createSchema(Database& database);
 
 /// Throws a DatabaseError of kind foreign unless the database is one of ours.
 void requireSchema(Database& database);
+
+/// Opens a database of ours. Throws DatabaseError.
+Database openModelDatabase(const std::filesystem::path& file);
 
 }  // namespace nerida::search

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "host/scene/model.h"
+
 namespace nerida {
 
 using Bytes = std::vector<std::uint8_t>;
@@ -40,5 +42,7 @@ GlbBuilder movingTriangleFile();
 
 /// Writes a file into the test's own folder.
 std::filesystem::path saved(const Bytes& bytes, const std::string& name);
+
+inline Model parse(const GlbBuilder& file) { return Model::parse(file.bytes()); }
 
 }  // namespace nerida

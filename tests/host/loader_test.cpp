@@ -8,8 +8,6 @@ namespace {
 
 using nlohmann::json;
 
-Model parse(const GlbBuilder& file) { return Model::parse(file.bytes()); }
-
 float widthOf(const Mesh& mesh) {
   float low = 1e9F, high = -1e9F;
   for (const Vec3 p : mesh.positions) {

@@ -11,8 +11,6 @@ namespace {
 
 using nlohmann::json;
 
-Model parse(const GlbBuilder& file) { return Model::parse(file.bytes()); }
-
 json& attributesOf(GlbBuilder& file) { return file.description["meshes"][0]["primitives"][0]["attributes"]; }
 
 json& colourTexture(GlbBuilder& file) {

@@ -61,7 +61,7 @@ TEST(Polygon, WhatCrossesItselfOrHasNoAreaComesToAnEnd) {
   EXPECT_TRUE(trianglesOfPolygon({{0, 0}, {1, 0}}).empty());
 }
 
-std::string refusal(const std::string& text) {
+std::string objRefusal(const std::string& text) {
   try {
     readObj(text);
   } catch (const LibraryError& error) {
@@ -90,7 +90,7 @@ TEST(ObjFile, ALineGoesOnAfterABackslash) {
   const ObjFile file = readObj(square + std::string("f 1 2 \\\n 3 4\n"));
   ASSERT_EQ(file.faces.size(), 1U);
   EXPECT_EQ(file.faces[0].cornerCount, 4U);
-  EXPECT_EQ(refusal(square + std::string("f 1 2 \\\n 3 4\nf 1 9 2\n")),
+  EXPECT_EQ(objRefusal(square + std::string("f 1 2 \\\n 3 4\nf 1 9 2\n")),
             "line 7: a face names a point that is not there");
 }
 
@@ -113,14 +113,14 @@ TEST(ObjFile, LinesPointsAndCurvesAreLeftOut) {
 }
 
 TEST(ObjFile, RefusalsNameTheLine) {
-  EXPECT_EQ(refusal("v 1 2 3\nv 1 nan 3\n"), "line 2: a point is infinitely far away");
-  EXPECT_EQ(refusal("v 1 -inf 3\n"), "line 1: a point is infinitely far away");
-  EXPECT_EQ(refusal("v 1,5 2,5 3,5\n"), "line 1: \"1,5\" is no number");
-  EXPECT_EQ(refusal("\n\nv 1 2\n"), "line 3: a point has less than three numbers");
-  EXPECT_EQ(refusal("v 0 0 0\nf 0 1 1\n"), "line 2: a face names a point that is not there");
-  EXPECT_EQ(refusal("v 0 0 0\nf 1 1 -2\n"), "line 2: a face names a point that is not there");
-  EXPECT_EQ(refusal("v 0 0 0\nf 1 1 99999999999999999999\n"), "line 2: a face names a point that is not there");
-  EXPECT_EQ(refusal("\xFF\xFEv"), "is written in UTF-16; save it as UTF-8 or plain text");
+  EXPECT_EQ(objRefusal("v 1 2 3\nv 1 nan 3\n"), "line 2: a point is infinitely far away");
+  EXPECT_EQ(objRefusal("v 1 -inf 3\n"), "line 1: a point is infinitely far away");
+  EXPECT_EQ(objRefusal("v 1,5 2,5 3,5\n"), "line 1: \"1,5\" is no number");
+  EXPECT_EQ(objRefusal("\n\nv 1 2\n"), "line 3: a point has less than three numbers");
+  EXPECT_EQ(objRefusal("v 0 0 0\nf 0 1 1\n"), "line 2: a face names a point that is not there");
+  EXPECT_EQ(objRefusal("v 0 0 0\nf 1 1 -2\n"), "line 2: a face names a point that is not there");
+  EXPECT_EQ(objRefusal("v 0 0 0\nf 1 1 99999999999999999999\n"), "line 2: a face names a point that is not there");
+  EXPECT_EQ(objRefusal("\xFF\xFEv"), "is written in UTF-16; save it as UTF-8 or plain text");
 }
 
 class ObjImport : public testing::Test {

@@ -19,7 +19,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-const std::vector<ModelCard> cards = {
+const std::vector<ModelCard> sortedCards = {
     {1, "Yak", "Animals", "Farm", {}, false},
     {2, "ant", "Animals", "Insects", {}, true},
     {3, "Zebra", "Animals", "Farm", {}, false},
@@ -34,7 +34,7 @@ const std::vector<ModelCard> cards = {
 };
 
 TEST(Categories, AreListedByNameWithTheirSubcategories) {
-  EXPECT_THAT(Sample(cards).engine().categories(),
+  EXPECT_THAT(Sample(sortedCards).engine().categories(),
               ElementsAre(Category{"Animals", {"Farm", "Insects"}}, Category{"buildings", {"Cats & Dogs"}},
                           Category{"Food", {"Farm", "Fruit"}}, Category{"Shapes", {}}));
 }
@@ -42,7 +42,7 @@ TEST(Categories, AreListedByNameWithTheirSubcategories) {
 TEST(Categories, OfAnEmptyDatabaseAreNone) { EXPECT_THAT(Sample({}).engine().categories(), IsEmpty()); }
 
 TEST(CategorySearch, GivesTheModelsByName) {
-  const Sample sample(cards);
+  const Sample sample(sortedCards);
   SearchEngine engine = sample.engine();
   EXPECT_THAT(namesOf(engine.searchCategory("Fruit")), ElementsAre("10 Tins", "apple"));
   EXPECT_THAT(namesOf(engine.searchCategory("Cats & Dogs")), ElementsAre("Plank"));
@@ -54,11 +54,11 @@ TEST(CategorySearch, GivesTheModelsByName) {
 }
 
 TEST(CategorySearch, TakesSubcategoriesOfOneNameTogether) {
-  EXPECT_THAT(namesOf(Sample(cards).engine().searchCategory("Farm")), ElementsAre("\u00C9clair", "Yak", "Zebra"));
+  EXPECT_THAT(namesOf(Sample(sortedCards).engine().searchCategory("Farm")), ElementsAre("\u00C9clair", "Yak", "Zebra"));
 }
 
 TEST(CategorySearch, KnowsSubcategoriesOnly) {
-  const Sample sample(cards);
+  const Sample sample(sortedCards);
   SearchEngine engine = sample.engine();
   for (const char* name : {"", "Animals", "Nothing", "Farm ", "' OR 1 --", "%"}) {
     EXPECT_THAT(engine.searchCategory(name), IsEmpty()) << name;
@@ -66,7 +66,7 @@ TEST(CategorySearch, KnowsSubcategoriesOnly) {
 }
 
 TEST(Categories, GoWithTheirLastModel) {
-  const Sample sample(cards);
+  const Sample sample(sortedCards);
   changeDatabase(sample.path(), {{12, "Kiwi", "Food", "Birds", {}, false}}, {10, 4});
   EXPECT_THAT(sample.engine().categories(),
               ElementsAre(Category{"Animals", {"Farm", "Insects"}}, Category{"Food", {"Birds", "Farm", "Fruit"}},

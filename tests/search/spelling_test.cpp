@@ -58,14 +58,14 @@ TEST(Characters, OfUtf8AreDecoded) {
   EXPECT_EQ(characters("\xE6\xBC"), std::u32string({0xE6, 0xBC}));
 }
 
-const std::vector<ModelCard> cards = {
+const std::vector<ModelCard> misspeltCards = {
     card(1, "Helicopter", {"aircraft"}), card(2, "Castle", {"tower"}), card(3, "Cattle", {"cow"}),
     card(4, "Towel", {"bath"}),          card(5, "Automobile"),        card(6, "Rose", {"flower"}),
     card(7, "Tulip", {"flower"}),        card(8, "Flour Bag"),
 };
 
 TEST(Misspelt, WordsFindWhatWasMeant) {
-  const Sample sample(cards);
+  const Sample sample(misspeltCards);
   EXPECT_THAT(sample.find("helicoptr"), ElementsAre("Helicopter"));
   EXPECT_THAT(sample.find("hellicopter aircraft"), ElementsAre("Helicopter"));
   EXPECT_THAT(sample.find("aircarft"), ElementsAre("Helicopter"));
@@ -73,13 +73,13 @@ TEST(Misspelt, WordsFindWhatWasMeant) {
 }
 
 TEST(Misspelt, WordsAreThoseThatFindNothingThemselves) {
-  const Sample sample(cards);
+  const Sample sample(misspeltCards);
   EXPECT_THAT(sample.find("tower"), ElementsAre("Castle"));
   EXPECT_THAT(sample.find("towe"), ElementsAre("Towel", "Castle"));
 }
 
 TEST(Misspelt, WordsWithSeveralNearestOnesFindAllOfThem) {
-  const Sample sample(cards);
+  const Sample sample(misspeltCards);
   EXPECT_THAT(sample.find("catle"), ElementsAre("Castle", "Cattle"));
 }
 
@@ -90,19 +90,19 @@ TEST(Misspelt, WordsKeepTheirFirstLetterWhereTheyCan) {
 }
 
 TEST(Misspelt, WordsAreNotGuessedTooFar) {
-  const Sample sample(cards);
+  const Sample sample(misspeltCards);
   EXPECT_THAT(sample.find("hlcptr"), IsEmpty());
   EXPECT_THAT(sample.find("ro"), ElementsAre("Rose"));
   EXPECT_THAT(sample.find("zz"), IsEmpty());
 }
 
 TEST(Misspelt, SynonymsAreUnderstoodToo) {
-  const Sample sample(cards, "limousine, automobile\n");
+  const Sample sample(misspeltCards, "limousine, automobile\n");
   EXPECT_THAT(sample.find("limosine"), ElementsAre("Automobile"));
 }
 
 TEST(Misspelt, HitsSaySo) {
-  const Sample sample(cards, "choppers, helicopter\n");
+  const Sample sample(misspeltCards, "choppers, helicopter\n");
   const auto closeness = [&](const char* text) { return sample.engine().searchKeywords(text).at(0).closeness; };
   EXPECT_EQ(closeness("helicopter"), Closeness::exact);
   EXPECT_EQ(closeness("chopper"), Closeness::synonym);
