@@ -14,9 +14,11 @@ else()
   set(NERIDA_ARCH x86)
 endif()
 
-# nerida_windows_test(NAME COMMAND...): they share one registry, one display and its focus, so each runs alone. Its full
-# name ends in the architecture: one run takes in several build trees, and mixes up what bears the same name.
+# nerida_windows_test(NAME COMMAND...): those of a bitness share one registry, one display and its focus, so they run one
+# after the other. A test's full name ends in the architecture: one run takes in several build trees, and mixes up what
+# bears the same name.
+set(NERIDA_ON_DESKTOP ${CMAKE_CURRENT_SOURCE_DIR}/windows/on_desktop ${NERIDA_ARCH})
 function(nerida_windows_test name)
-  add_test(NAME ${name}.${NERIDA_ARCH} COMMAND ${ARGN})
-  set_tests_properties(${name}.${NERIDA_ARCH} PROPERTIES RUN_SERIAL TRUE TIMEOUT 120)
+  add_test(NAME ${name}.${NERIDA_ARCH} COMMAND ${NERIDA_ON_DESKTOP} ${ARGN})
+  set_tests_properties(${name}.${NERIDA_ARCH} PROPERTIES RESOURCE_LOCK desktop-${NERIDA_ARCH} TIMEOUT 120)
 endfunction()

@@ -14,7 +14,7 @@ from tools.session import desktop  # noqa: E402
 from tools.session.probe import HOT, PRESSED, PUSH_BUTTON, UNAVAILABLE, Probe, wait_for  # noqa: E402
 
 HERE = Path(__file__).resolve().parent
-SCREENS = ROOT / "out" / "screens"
+SCREENS = ROOT / "out" / "screens" / ("x64" if "x64" in sys.argv else "x86")
 programs = argparse.Namespace()
 
 
