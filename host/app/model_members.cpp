@@ -13,9 +13,9 @@ int bounded(int value, int low, int high, const char* what) {
                                               std::to_string(high) + ", not " + std::to_string(value) + "."};
 }
 
-Rgb colorOf(const Arguments& arguments) {
+PackedRgb colorOf(const Arguments& arguments) {
   constexpr int whiteColor = 0xFFFFFF;
-  return static_cast<Rgb>(bounded(arguments.number(0), 0, whiteColor, "A colour"));
+  return static_cast<PackedRgb>(bounded(arguments.number(0), 0, whiteColor, "A colour"));
 }
 
 // A property that is read by `Read` alone.
@@ -139,7 +139,7 @@ void letPlaying(Model& model, const Arguments& arguments) {
 
 void letLooping(Model& model, const Arguments& arguments) { model.scene.animation.setLooping(arguments.boolean(0)); }
 
-int signedColor(Rgb color) { return static_cast<int>(color); }
+int signedColor(PackedRgb color) { return static_cast<int>(color); }
 
 constexpr auto nameOf = [](const Model& m) { return m.name(); };
 constexpr auto flagsOf = [](const Model& m) { return m.interfaceFlags(); };

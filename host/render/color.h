@@ -5,11 +5,11 @@
 namespace nerida {
 
 /// A colour as automation passes it: red + 256 * green + 65536 * blue.
-using Rgb = std::uint32_t;
+using PackedRgb = std::uint32_t;
 
-constexpr Rgb makeRgb(unsigned red, unsigned green, unsigned blue) { return red | green << 8U | blue << 16U; }
-constexpr unsigned redOf(Rgb color) { return color & 0xFFU; }
-constexpr unsigned greenOf(Rgb color) { return color >> 8U & 0xFFU; }
-constexpr unsigned blueOf(Rgb color) { return color >> 16U & 0xFFU; }
+constexpr PackedRgb makeRgb(unsigned red, unsigned green, unsigned blue) { return red | green << 8U | blue << 16U; }
+constexpr unsigned redOf(PackedRgb color) { return color & 0xFFU; }
+constexpr unsigned greenOf(PackedRgb color) { return color >> 8U & 0xFFU; }
+constexpr unsigned blueOf(PackedRgb color) { return color >> 16U & 0xFFU; }
 
 }  // namespace nerida

@@ -26,9 +26,9 @@ struct Light {
 /// A style with what the user changed of it.
 struct Look {
   const LookStyle* style = nullptr;
-  std::optional<Rgb> surface;
-  std::optional<Rgb> line;
-  std::optional<Rgb> background;
+  std::optional<PackedRgb> surface;
+  std::optional<PackedRgb> line;
+  std::optional<PackedRgb> background;
   int lineThickness = 100;  ///< per cent
   Light light;
 };

@@ -43,7 +43,8 @@ Vec3 textureColor(const Texture& texture, Vec2 at) {
 template <class Shader>
 class SurfacePainter {
  public:
-  SurfacePainter(const Mesh& drawnMesh, Frame& drawnFrame, const Shader& chosenShader, std::optional<Rgb> oneColor)
+  SurfacePainter(const Mesh& drawnMesh, Frame& drawnFrame, const Shader& chosenShader,
+                 std::optional<PackedRgb> oneColor)
       : mesh(drawnMesh), frame(drawnFrame), shader(chosenShader) {
     if (oneColor) color = linearFromRgb(*oneColor);
   }
@@ -151,8 +152,8 @@ Lamp lampOf(const Light& light) {
 }
 
 struct Colors {
-  std::optional<Rgb> surface;
-  Rgb line, background;
+  std::optional<PackedRgb> surface;
+  PackedRgb line, background;
 };
 
 Colors colorsOf(const Look& look) {

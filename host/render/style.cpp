@@ -6,9 +6,9 @@
 namespace nerida {
 namespace {
 
-constexpr Rgb white = makeRgb(255, 255, 255);
-constexpr Rgb black = makeRgb(20, 20, 24);
-constexpr Rgb clay = makeRgb(200, 204, 212);
+constexpr PackedRgb white = makeRgb(255, 255, 255);
+constexpr PackedRgb black = makeRgb(20, 20, 24);
+constexpr PackedRgb clay = makeRgb(200, 204, 212);
 
 constexpr LookStyle plainStyle{.name = "Basic Draw",
                                .shading = Shading::facets,

@@ -42,9 +42,9 @@ struct LookStyle {
   std::string_view name;
   Shading shading;
   Lines lines;
-  Rgb surface;
-  Rgb line;
-  Rgb background;
+  PackedRgb surface;
+  PackedRgb line;
+  PackedRgb background;
   bool ownColors;  ///< while the surface colour is the default, the model's own materials show
 
   [[nodiscard]] constexpr bool usesLines() const { return lines.contours || lines.creases || lines.everyEdge; }

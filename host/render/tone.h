@@ -11,7 +11,7 @@ namespace nerida {
 /// One component, 0 to 255, as linear light 0 to 1.
 float linearFromByte(unsigned component);
 
-inline Vec3 linearFromRgb(Rgb color) {
+inline Vec3 linearFromRgb(PackedRgb color) {
   return {linearFromByte(redOf(color)), linearFromByte(greenOf(color)), linearFromByte(blueOf(color))};
 }
 
@@ -35,7 +35,7 @@ class ToneEncoder {
   const std::array<std::uint8_t, toneSteps>& table = toneTable();
 };
 
-constexpr std::uint32_t pixelFromRgb(Rgb color) {
+constexpr std::uint32_t pixelFromRgb(PackedRgb color) {
   return 0xFF000000U | redOf(color) << 16U | greenOf(color) << 8U | blueOf(color);
 }
 

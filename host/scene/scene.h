@@ -21,13 +21,13 @@ struct LightDirection {
 class ColorChoice {
  public:
   [[nodiscard]] bool isDefault() const { return !chosen; }
-  void set(Rgb color) { chosen = color & 0xFFFFFFU; }
+  void set(PackedRgb color) { chosen = color & 0xFFFFFFU; }
   void restoreDefault() { chosen.reset(); }
-  [[nodiscard]] Rgb value(Rgb styleColor) const { return chosen.value_or(styleColor); }
-  [[nodiscard]] const std::optional<Rgb>& explicitColor() const { return chosen; }
+  [[nodiscard]] PackedRgb value(PackedRgb styleColor) const { return chosen.value_or(styleColor); }
+  [[nodiscard]] const std::optional<PackedRgb>& explicitColor() const { return chosen; }
 
  private:
-  std::optional<Rgb> chosen;
+  std::optional<PackedRgb> chosen;
 };
 
 /// Everything that an embedded 3D object knows: its model, how the model stands, and how it is drawn.
@@ -66,9 +66,9 @@ class Scene {
   [[nodiscard]] std::string lookStyleName() const;                 ///< "none" = custom style
   bool setLookStyle(const std::string& styleName);                 ///< false and no change: no such style
 
-  [[nodiscard]] Rgb surfaceColor() const { return surface.value(style->surface); }
-  [[nodiscard]] Rgb lineColor() const { return line.value(style->line); }
-  [[nodiscard]] Rgb backgroundColor() const { return background.value(style->background); }
+  [[nodiscard]] PackedRgb surfaceColor() const { return surface.value(style->surface); }
+  [[nodiscard]] PackedRgb lineColor() const { return line.value(style->line); }
+  [[nodiscard]] PackedRgb backgroundColor() const { return background.value(style->background); }
   /// A colour that the user chose outlives a change of style, until restoreDefault().
   ColorChoice surface, line, background;
 

@@ -28,7 +28,7 @@ constexpr const char* usage =
 
 using Options = std::map<std::string, std::string>;
 
-Rgb colorOf(const std::string& hex) {
+PackedRgb colorOf(const std::string& hex) {
   const auto value = static_cast<unsigned>(std::stoul(hex, nullptr, 16));
   return makeRgb(value >> 16U & 0xFFU, value >> 8U & 0xFFU, value & 0xFFU);
 }

@@ -24,7 +24,7 @@ Picture draw(const Mesh& mesh, const Look& look, const View& view = {}) {
   return picture;
 }
 
-Color colorOf(Rgb color) {
+Color colorOf(PackedRgb color) {
   return {static_cast<int>(redOf(color)), static_cast<int>(greenOf(color)), static_cast<int>(blueOf(color))};
 }
 

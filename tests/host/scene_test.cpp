@@ -125,7 +125,7 @@ TEST_F(SceneTest, stylesAreChosenByName) {
 
 TEST_F(SceneTest, theEmptyNameIsTheCustomStyle) {
   scene.setLookStyle("Blueprint");
-  const Rgb background = scene.backgroundColor();
+  const PackedRgb background = scene.backgroundColor();
   EXPECT_TRUE(scene.setLookStyle(""));
   EXPECT_EQ(scene.lookStyleName(), "none");
   EXPECT_EQ(scene.backgroundColor(), background);
