@@ -22,7 +22,7 @@ std::string modelFile(const std::string& shape) {
   return writeGlb(buildModel(readRecipe("model 1 Box\nin C, S\nwords a\n" + shape + " #808080\n", "box", {}), "box"));
 }
 
-ModelCard card(std::int32_t number, const std::string& name) {
+ModelCard shippedCard(std::int32_t number, const std::string& name) {
   ModelCard made;
   made.number = number;
   made.name = name;
@@ -44,7 +44,9 @@ class ShippedModels : public testing::Test {
     return made.models;
   }
 
-  void addOwn(std::int32_t number, const std::string& name) { LibraryEditor(places()).add(card(number, name), ball); }
+  void addOwn(std::int32_t number, const std::string& name) {
+    LibraryEditor(places()).add(shippedCard(number, name), ball);
+  }
 
   /// What the index says; the database and the files must agree.
   Lines models() {
@@ -65,21 +67,21 @@ class ShippedModels : public testing::Test {
 };
 
 TEST_F(ShippedModels, FirstOnesMakeALibrary) {
-  replaceShippedModels(places(), version("1", {card(3, "Three"), card(1234, "More")}));
+  replaceShippedModels(places(), version("1", {shippedCard(3, "Three"), shippedCard(1234, "More")}));
   EXPECT_EQ(models(), (Lines{"3 Three", "1234 More"}));
 }
 
 TEST_F(ShippedModels, NextVersionWithdrawsAndRenamesButKeepsPeoplesOwn) {
-  replaceShippedModels(places(), version("1", {card(3, "Three"), card(1234, "More")}));
+  replaceShippedModels(places(), version("1", {shippedCard(3, "Three"), shippedCard(1234, "More")}));
   addOwn(50000, "Mine");
-  replaceShippedModels(places(), version("2", {card(3, "Drei"), card(40, "Forty")}));
+  replaceShippedModels(places(), version("2", {shippedCard(3, "Drei"), shippedCard(40, "Forty")}));
   EXPECT_EQ(models(), (Lines{"3 Drei", "40 Forty", "50000 Mine"}));
   EXPECT_EQ(contentOfModel(1234), "nothing");
   EXPECT_EQ(contentOfModel(50000), ball);
 }
 
 TEST_F(ShippedModels, TheSameVersionAgainBringsBackWhatWasRemoved) {
-  const fs::path shipped = version("1", {card(3, "Three"), card(4, "Four")});
+  const fs::path shipped = version("1", {shippedCard(3, "Three"), shippedCard(4, "Four")});
   replaceShippedModels(places(), shipped);
   LibraryEditor(places()).remove(4);
   replaceShippedModels(places(), shipped);
@@ -87,34 +89,34 @@ TEST_F(ShippedModels, TheSameVersionAgainBringsBackWhatWasRemoved) {
 }
 
 TEST_F(ShippedModels, OwnModelKeepsItsNumber) {
-  replaceShippedModels(places(), version("1", {card(3, "Three")}));
+  replaceShippedModels(places(), version("1", {shippedCard(3, "Three")}));
   LibraryEditor(places()).remove(3);
   addOwn(3, "Mine");
   addOwn(7, "Also mine");
-  replaceShippedModels(places(), version("2", {card(3, "Three"), card(7, "Seven")}));
+  replaceShippedModels(places(), version("2", {shippedCard(3, "Three"), shippedCard(7, "Seven")}));
   EXPECT_EQ(models(), (Lines{"3 Mine", "7 Also mine"}));
   EXPECT_EQ(contentOfModel(3), ball);
   EXPECT_EQ(contentOfModel(7), ball);
 }
 
 TEST_F(ShippedModels, NoneLeaveALibraryOfPeoplesOwn) {
-  replaceShippedModels(places(), version("1", {card(3, "Three")}));
+  replaceShippedModels(places(), version("1", {shippedCard(3, "Three")}));
   addOwn(50000, "Mine");
   replaceShippedModels(places(), {});
   EXPECT_EQ(models(), Lines{"50000 Mine"});
 }
 
 TEST_F(ShippedModels, NoneAtAllLeaveNoTrace) {
-  replaceShippedModels(places(), version("1", {card(3, "Three")}));
+  replaceShippedModels(places(), version("1", {shippedCard(3, "Three")}));
   fs::remove_all(folder.path() / "1");
   replaceShippedModels(places(), {});
   EXPECT_TRUE(fs::is_empty(folder.path()));
 }
 
 TEST_F(ShippedModels, InterruptedExchangeIsMadeGood) {
-  replaceShippedModels(places(), version("1", {card(3, "Three")}));
+  replaceShippedModels(places(), version("1", {shippedCard(3, "Three")}));
   addOwn(50000, "Mine");
-  const fs::path damaged = version("2", {card(4, "Four"), card(5, "Five")});
+  const fs::path damaged = version("2", {shippedCard(4, "Four"), shippedCard(5, "Five")});
   const std::string lost = readWhole(damaged / modelPath(5)).value();
   fs::remove(damaged / modelPath(5));
   EXPECT_THROW(replaceShippedModels(places(), damaged), LibraryError);
