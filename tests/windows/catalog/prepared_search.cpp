@@ -59,7 +59,7 @@ SAFEARRAY* arrayOf(const std::vector<Number>& numbers, VARTYPE type) {
   return array;
 }
 
-HRESULT refuse() {
+HRESULT refusal() {
   ComPtr<ICreateErrorInfo> info;
   CreateErrorInfo(info.put());
   Bstr text(L"The database is locked.");
@@ -102,7 +102,7 @@ class PreparedSearch final : public SearchInterface, public ISupportErrorInfo {
 
   STDMETHODIMP Search(BSTR* query, SAFEARRAY** names, SAFEARRAY** ids, SAFEARRAY** flags, LONG* count) override {
     const std::wstring asked(*query, SysStringLen(*query));
-    if (asked == L"refuse") return refuse();
+    if (asked == L"refuse") return refusal();
     if (asked == L"fail") return E_OUTOFMEMORY;
     if (asked == L"rewrite") SysReAllocString(query, L"rewritten");
     const Answer answer = answerTo(asked);
@@ -116,7 +116,7 @@ class PreparedSearch final : public SearchInterface, public ISupportErrorInfo {
   STDMETHODIMP unused() override { return E_NOTIMPL; }
 
   STDMETHODIMP GetCategories(SAFEARRAY** names, SAFEARRAY** subNames, SAFEARRAY** subCounts, LONG* last) override {
-    if (categoriesFail()) return refuse();
+    if (categoriesFail()) return refusal();
     *names = arrayOf({L"Buildings", L"Vehicles", L"Nothing"});
     *subNames = arrayOf({L"Mills", L"Salt & Pepper", L"Boats"});
     *subCounts = arrayOf(std::vector<SHORT>{2, 1, 0}, VT_I2);
