@@ -63,6 +63,7 @@ struct FormLayout {
   std::span<const ControlLayout> controls;
   std::span<const MenuLayout> menu = {};
   bool onPicture = false;
+  const char* accessibleName = "";  // of a form without a caption
 };
 
 }  // namespace nerida

@@ -27,12 +27,14 @@ constexpr std::array controls{
     ControlLayout{"pnlColor", 0, ControlKind::pictureBox, at(0, 0, 2400, 2805), "", "Colors"},
 };
 
-constexpr FormLayout paletteNamed(const char* name) { return {name, "", FormFrame::popup, {2400}, {2895}, controls}; }
+constexpr FormLayout paletteNamed(const char* name, const char* accessibleName) {
+  return popupLayout(name, accessibleName, 2400, 2895, controls);
+}
 
 }  // namespace
 
-constinit const FormLayout backgroundColorsLayout = paletteNamed("frmBackgroundColors");
-constinit const FormLayout lineColorsLayout = paletteNamed("frmLineColors");
-constinit const FormLayout surfaceColorsLayout = paletteNamed("frmSurfaceColors");
+constinit const FormLayout backgroundColorsLayout = paletteNamed("frmBackgroundColors", "Background Options");
+constinit const FormLayout lineColorsLayout = paletteNamed("frmLineColors", "Line Color");
+constinit const FormLayout surfaceColorsLayout = paletteNamed("frmSurfaceColors", "Fill Color");
 
 }  // namespace nerida

@@ -65,12 +65,11 @@ constexpr std::array animationControls{
 
 }  // namespace
 
-constinit const FormLayout lineThicknessLayout{
-    "frmLineThicknessMenu", "", FormFrame::popup, {2 * margin + button}, {2 * margin + 5 * button + frame},
-    thicknessControls};
-constinit const FormLayout lightingLayout{
-    "frmLighting", "", FormFrame::popup, {lightingWidth}, {lightingHeight + frame}, lightingControls};
-constinit const FormLayout animationLayout{
-    "frmAnimation", "", FormFrame::popup, {animationWidth}, {2 * margin + button + frame}, animationControls};
+constinit const FormLayout lineThicknessLayout = popupLayout(
+    "frmLineThicknessMenu", "Line Thickness", 2 * margin + button, 2 * margin + 5 * button + frame, thicknessControls);
+constinit const FormLayout lightingLayout =
+    popupLayout("frmLighting", "Lighting", lightingWidth, lightingHeight + frame, lightingControls);
+constinit const FormLayout animationLayout =
+    popupLayout("frmAnimation", "Animation Playback", animationWidth, 2 * margin + button + frame, animationControls);
 
 }  // namespace nerida

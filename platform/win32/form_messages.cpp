@@ -1,7 +1,9 @@
 // What a form does with its messages: activation, clicks, the close box, and the procedure hooked in front.
 #include <windowsx.h>
 
+#include "platform/win32/accessible_name.h"
 #include "platform/win32/form_window.h"
+#include "platform/win32/text.h"
 
 namespace nerida {
 namespace {
@@ -142,6 +144,10 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_MENUCOMMAND:
     case WM_INITMENUPOPUP:
       if (onMenu(message, wParam, lParam)) return 0;
+      break;
+    case WM_GETOBJECT:
+      if (*layout.accessibleName == '\0') break;
+      if (const auto answer = answerWithName(hwnd, wide(layout.accessibleName), wParam, lParam)) return *answer;
       break;
     case WM_SIZE:
       if (isDialog()) placeControls();
