@@ -10,14 +10,15 @@ from session.demo_catalog import Catalog  # noqa: E402
 from session.probe import wait_for  # noqa: E402
 from session.tour import Tour  # noqa: E402
 
-PLACE = (60, 4, 900, 900)
+CORNER, SIDE = (60, 4), 900  # of the document at 96 dots per inch
 MARGIN = 6
 SETTLE = 0.8  # seconds, until hover and tooltips have come
 
 
 class Help(Tour):
-    def __init__(self, model, folder):
-        super().__init__(model, PLACE)
+    def __init__(self, model, folder, dpi):
+        side = SIDE * dpi // 96
+        super().__init__(model, (*CORNER, side, side))
         self.folder = folder
 
     def take(self, name, *areas):
@@ -90,8 +91,8 @@ def catalog(tour):
 
 
 def main():
-    model, folder = sys.argv[1], Path(sys.argv[2])
-    with Help(model, folder) as tour:
+    model, folder, dpi = sys.argv[1], Path(sys.argv[2]), int(sys.argv[3])
+    with Help(model, folder, dpi) as tour:
         tour.activate()
         toolbar(tour)
         popups(tour)
