@@ -64,24 +64,21 @@ bool isOurs(HWND window) {
   return process == GetCurrentProcessId();
 }
 
-TEST_F(Handles, OfTheToolbarNamesItsWindow) {
-  const auto window = static_cast<HWND>(LongToHandle(showToolbar(50, 60)));
-  EXPECT_TRUE(IsWindow(window));
-  EXPECT_EQ(GetAncestor(window, GA_ROOT), window) << "the whole handle";
-  EXPECT_TRUE(IsWindowVisible(window));
-  EXPECT_TRUE(isOurs(window));
-  EXPECT_TRUE(isTitled(window, L"Zephra Toolbar"));
-}
-
-TEST_F(Handles, OfTheCatalogNamesItsWindow) {
-  LONG number = 0;
-  ASSERT_EQ(control->ShowCatalog(&number), S_OK);
+void expectWindowOfOurs(LONG number, const wchar_t* title) {
   const auto window = static_cast<HWND>(LongToHandle(number));
   EXPECT_TRUE(IsWindow(window));
   EXPECT_EQ(GetAncestor(window, GA_ROOT), window) << "the whole handle";
   EXPECT_TRUE(IsWindowVisible(window));
   EXPECT_TRUE(isOurs(window));
-  EXPECT_TRUE(isTitled(window, L"Zephra Catalog"));
+  EXPECT_TRUE(isTitled(window, title));
+}
+
+TEST_F(Handles, OfTheToolbarNamesItsWindow) { expectWindowOfOurs(showToolbar(50, 60), L"Zephra Toolbar"); }
+
+TEST_F(Handles, OfTheCatalogNamesItsWindow) {
+  LONG number = 0;
+  ASSERT_EQ(control->ShowCatalog(&number), S_OK);
+  expectWindowOfOurs(number, L"Zephra Catalog");
 }
 
 TEST_F(Handles, FromLateBindingIsTheSameNumber) {
