@@ -63,17 +63,24 @@ void drawTriangle(PixelBox& box, int base, int direction, int half, Offset by, C
   }
 }
 
-void drawPlayGlyph(PixelBox& box, Offset by, Rgb color) {
+template <class Color>
+void drawPlayGlyph(PixelBox& box, Offset by, Color color) {
   const int half = box.side(7);
   drawTriangle(box, (box.columns() - half) / 2, 1, half, by, color);
 }
 
-void drawPauseGlyph(PixelBox& box, Offset by, Rgb color) {
+template <class Color>
+void drawPauseGlyph(PixelBox& box, Offset by, Color color) {
   const int width = box.side(4);
   const int gap = width - (box.columns() - width) % 2;  // so that the same room is left on both sides
   const int left = (box.columns() - 2 * width - gap) / 2;
   drawBar(box, left, width, box.side(6), by, color);
   drawBar(box, left + width + gap, width, box.side(6), by, color);
+}
+
+template <class Color>
+void drawGlyph(PixelBox& box, bool playing, Offset by, Color color) {
+  playing ? drawPauseGlyph(box, by, color) : drawPlayGlyph(box, by, color);
 }
 
 // A step button's drawing: a triangle and the bar from which or to which it leads.
@@ -112,8 +119,11 @@ void paintPlayPause(Canvas& canvas, DrawnBox box, const PlayPauseLook& look) {
   // What is down has sunk in by a pixel, with all that is on it.
   const Offset sunk = look.pressed ? Offset{1, 1} : Offset{0, 0};
   PixelBox pixels(canvas, box);
-  const auto drawGlyph = look.playing ? drawPauseGlyph : drawPlayGlyph;
-  drawGlyph(pixels, sunk, look.glyphColor);
+  // On a dark desktop the light outline is what the glyph is seen by.
+  for (const Offset side : {Offset{-1, 0}, {1, 0}, {0, -1}, {0, 1}}) {
+    drawGlyph(pixels, look.playing, {sunk.x + side.x, sunk.y + side.y}, highlight);
+  }
+  drawGlyph(pixels, look.playing, sunk, look.glyphColor);
   if (look.focused) {
     canvas.focusBox({2 * box.pixelX}, {2 * box.pixelY}, {box.width - 3 * box.pixelX}, {box.height - 3 * box.pixelY});
   }

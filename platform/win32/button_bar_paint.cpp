@@ -28,23 +28,39 @@ struct Look {
 };
 
 // Faces are tinted with the colour of selections: on desktops whose faces are nearly white, light and shadow alone
-// would not tell the states apart.
-void paintFace(PixelCanvas& canvas, Box box, const Look& look) {
-  if (!look.held && !look.latched && !look.hot) return;
+// would not tell the states apart. Returns the ground on which the picture is to lie.
+PixelColor paintFace(PixelCanvas& canvas, Box box, const Look& look) {
   const PixelColor face = systemColor(COLOR_BTNFACE);
+  if (!look.held && !look.latched && !look.hot) return face;
   const PixelColor tint = systemColor(COLOR_HIGHLIGHT);
   const PixelColor light = systemColor(COLOR_BTNHIGHLIGHT);
   const PixelColor shadow = systemColor(COLOR_BTNSHADOW);
   const Box inside = {box.left + 1, box.top + 1, box.right - 1, box.bottom - 1};
   if (look.held) {
-    canvas.fill(inside, mixed(face, tint, 38));
+    const PixelColor ground = mixed(face, tint, 38);
+    canvas.fill(inside, ground);
     canvas.frame(box, mixed(tint, 0, 35), mixed(tint, light, 40));
-  } else if (look.latched) {
-    canvas.fillChecked(inside, mixed(face, tint, look.hot ? 30 : 24), mixed(face, tint, look.hot ? 22 : 14));
+    return ground;
+  }
+  if (look.latched) {
+    const PixelColor ground = mixed(face, tint, look.hot ? 30 : 24);
+    canvas.fillChecked(inside, ground, mixed(face, tint, look.hot ? 22 : 14));
     canvas.frame(box, mixed(tint, shadow, 50), mixed(tint, light, 45));
+    return ground;
+  }
+  const PixelColor ground = mixed(light, tint, 10);
+  canvas.fill(inside, ground);
+  canvas.frame(box, mixed(light, tint, 30), mixed(shadow, tint, 50));
+  return ground;
+}
+
+void paintPicture(PixelCanvas& canvas, const Picture& picture, POINT at, bool usable, PixelColor ground) {
+  if (!isDark(ground)) {
+    usable ? canvas.draw(picture, at.x, at.y) : canvas.drawGreyed(picture, at.x, at.y);
+  } else if (usable) {
+    canvas.drawOnDark(picture, at.x, at.y);
   } else {
-    canvas.fill(inside, mixed(light, tint, 10));
-    canvas.frame(box, mixed(light, tint, 30), mixed(shadow, tint, 50));
+    canvas.drawUnusableOnDark(picture, at.x, at.y, systemColor(COLOR_GRAYTEXT));
   }
 }
 
@@ -109,11 +125,10 @@ void SystemButtonBar::paintButton(PixelCanvas& canvas, int index) {
   const bool held = index == pressed && index == hot;
   const Look look = {isUsable(index), index == hot || index == pressed, held, item.state == buttonDown};
   const Box box = boxOf(item.area);
-  paintFace(canvas, box, look);
+  const PixelColor ground = paintFace(canvas, box, look);
   if (const Picture* picture = pictureOf(item)) {
-    const POINT at = pictureOrigin(item, index);
     const bool isGreyAlready = enabled && item.spec.kind == 4;
-    look.usable || isGreyAlready ? canvas.draw(*picture, at.x, at.y) : canvas.drawGreyed(*picture, at.x, at.y);
+    paintPicture(canvas, *picture, pictureOrigin(item, index), look.usable || isGreyAlready, ground);
   }
   if (index == focused && form().showsFocus() && GetFocus() == window()) {
     canvas.dottedFrame({box.left + 2, box.top + 2, box.right - 2, box.bottom - 2}, systemColor(COLOR_BTNTEXT));
@@ -145,9 +160,11 @@ void SystemButtonBar::paintCaption(HDC dc, int index) {
     write(COLOR_BTNTEXT);
     return;
   }
-  OffsetRect(&text, 1, 1);
-  write(COLOR_BTNHIGHLIGHT);
-  OffsetRect(&text, -1, -1);
+  if (!isDark(systemColor(COLOR_BTNFACE))) {  // where it would outshine the text
+    OffsetRect(&text, 1, 1);
+    write(COLOR_BTNHIGHLIGHT);
+    OffsetRect(&text, -1, -1);
+  }
   write(COLOR_GRAYTEXT);
 }
 

@@ -39,7 +39,7 @@ LRESULT SystemListView::send(UINT message, WPARAM wParam, LPARAM lParam) const {
 void SystemListView::fitColumn() {
   RECT client = {};
   GetClientRect(window(), &client);
-  send(LVM_SETCOLUMNWIDTH, 0, client.right);
+  if (std::exchange(columnWidth, client.right) != client.right) send(LVM_SETCOLUMNWIDTH, 0, client.right);
 }
 
 void SystemListView::reposition() {
@@ -83,12 +83,17 @@ void SystemListView::clear() {
   selecting = false;
   items.clear();
   clicked = -1;
-  tellCount();
+  tellCountLater();
 }
 
-// The system's list takes its time for every change of its count; it is told once.
 void SystemListView::add(ListItem item) {
   items.push_back(std::move(item));
+  tellCountLater();
+}
+
+// The system's list takes its time for every change of its count, most of all when its scroll bar comes or goes: it is
+// told once what has come of clearing and filling.
+void SystemListView::tellCountLater() {
   if (std::exchange(countIsDue, true)) return;
   PostMessageW(window(), tellCountMessage, 0, 0);
 }
@@ -118,6 +123,7 @@ void SystemListView::select(int index) {
   send(LVM_SETITEMSTATE, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&chosen));
   selecting = false;
   send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(index), FALSE);
+  UpdateWindow(window());  // people see it while the program is still busy with what was selected
 }
 
 void SystemListView::refresh() {
@@ -132,8 +138,8 @@ bool SystemListView::takesFocus() const {
 }
 
 void SystemListView::describe(LVITEMW& shown) const {
-  if (shown.iItem < 0 || shown.iItem >= count()) return;
-  const ListItem& described = items[static_cast<std::size_t>(shown.iItem)];
+  // One that has gone since may still be asked for.
+  const ListItem described = shown.iItem >= 0 && shown.iItem < count() ? item(shown.iItem) : ListItem{};
   if ((shown.mask & LVIF_TEXT) != 0 && shown.cchTextMax > 0) {
     lstrcpynW(shown.pszText, wide(described.text).c_str(), shown.cchTextMax);
   }

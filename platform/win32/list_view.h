@@ -34,6 +34,7 @@ class SystemListView final : public ControlOf<ListView> {
   void describe(LVITEMW& shown) const;
   void unselect(UINT which);  // LVNI_SELECTED or LVNI_FOCUSED
   void tellCount();
+  void tellCountLater();
   void clickLater(int index);
   void fitColumn();
   LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
@@ -43,6 +44,7 @@ class SystemListView final : public ControlOf<ListView> {
   std::vector<ListItem> items;
   int told = 0;  // items that the system's list knows of
   bool countIsDue = false;
+  LONG columnWidth = 0;
   bool selecting = false;      // by the program
   bool mouseIsDown = false;    // inside the system's handling of a press
   bool mouseSelected = false;  // the press selected an item

@@ -15,12 +15,32 @@ PixelColor over(std::uint32_t color, PixelColor below) {
   return channel(16) | channel(8) | channel(0);
 }
 
+// As bright as the colour is to the eye, from 0 to 255; of a colour multiplied by its alpha, up to that.
+std::uint32_t brightness(std::uint32_t color) {
+  return ((color >> 16 & 255) * 77 + (color >> 8 & 255) * 150 + (color & 255) * 29) / 256;
+}
+
 std::uint32_t greyed(std::uint32_t color) {
   const std::uint32_t alpha = (color >> 24) / 2;
-  const std::uint32_t light = ((color >> 16 & 255) * 77 + (color >> 8 & 255) * 150 + (color & 255) * 29) / 512;
   // Raised towards the middle, so that dark outlines do not stay the darkest thing on the bar.
-  const std::uint32_t grey = std::min(alpha, light / 2 + alpha * 2 / 5);
+  const std::uint32_t grey = std::min(alpha, brightness(color) / 4 + alpha * 2 / 5);
   return alpha << 24 | grey << 16 | grey << 8 | grey;
+}
+
+std::uint32_t lifted(std::uint32_t color) {
+  const std::uint32_t alpha = color >> 24;
+  const std::uint32_t light = 2 * brightness(color);
+  if (light >= alpha) return color;
+  const auto channel = [&](unsigned shift) { return std::min(alpha, (color >> shift & 255) + alpha - light) << shift; };
+  return alpha << 24 | channel(16) | channel(8) | channel(0);
+}
+
+// The shape of a picture in one colour, its shades between half and all of it.
+std::uint32_t inColor(std::uint32_t picture, PixelColor color) {
+  const std::uint32_t alpha = picture >> 24;
+  const std::uint32_t light = (alpha + brightness(lifted(picture))) / 2;
+  const auto channel = [&](unsigned shift) { return (color >> shift & 255) * light / 255 << shift; };
+  return alpha << 24 | channel(16) | channel(8) | channel(0);
 }
 
 }  // namespace
@@ -32,6 +52,8 @@ PixelColor mixed(PixelColor a, PixelColor b, int percentOfB) {
   };
   return channel(16) | channel(8) | channel(0);
 }
+
+bool isDark(PixelColor color) { return brightness(color) < 128; }
 
 Box PixelCanvas::clipped(Box box) const {
   return {std::max(box.left, 0), std::max(box.top, 0), std::min(box.right, width), std::min(box.bottom, height)};
@@ -92,5 +114,11 @@ void PixelCanvas::draw(const Picture& picture, int x, int y) {
 }
 
 void PixelCanvas::drawGreyed(const Picture& picture, int x, int y) { blend(picture, x, y, greyed); }
+
+void PixelCanvas::drawOnDark(const Picture& picture, int x, int y) { blend(picture, x, y, lifted); }
+
+void PixelCanvas::drawUnusableOnDark(const Picture& picture, int x, int y, PixelColor color) {
+  blend(picture, x, y, [color](std::uint32_t shade) { return inColor(shade, color); });
+}
 
 }  // namespace nerida

@@ -12,6 +12,9 @@ using PixelColor = std::uint32_t;
 
 PixelColor mixed(PixelColor a, PixelColor b, int percentOfB);
 
+// Nearer to black than to white.
+bool isDark(PixelColor color);
+
 struct Box {
   int left, top, right, bottom;  // right and bottom are outside
 };
@@ -30,6 +33,10 @@ class PixelCanvas {
   void draw(const Picture& picture, int x, int y);
   // The picture without its colours and half faded, as on something that cannot be used.
   void drawGreyed(const Picture& picture, int x, int y);
+  // For dark grounds, on which the dark strokes of a picture would be lost: they are as much lighter than the middle as
+  // they are darker. What cannot be used is in one colour there, since faded it would be too near to the ground.
+  void drawOnDark(const Picture& picture, int x, int y);
+  void drawUnusableOnDark(const Picture& picture, int x, int y, PixelColor color);
 
  private:
   template <class Shade>

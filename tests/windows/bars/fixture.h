@@ -6,6 +6,7 @@
 #include <oleacc.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/error.h"
@@ -34,6 +35,27 @@ inline void pump() {
     DispatchMessageW(&message);
   }
 }
+
+// Other colours for the whole desktop, for as long as it lives.
+class OtherColors {
+ public:
+  OtherColors(std::vector<int> which, const std::vector<COLORREF>& colors) : indices(std::move(which)) {
+    for (const int index : indices) before.push_back(GetSysColor(index));
+    set(colors);
+  }
+  ~OtherColors() { set(before); }
+  OtherColors(const OtherColors&) = delete;
+  OtherColors& operator=(const OtherColors&) = delete;
+
+ private:
+  void set(const std::vector<COLORREF>& colors) {
+    SetSysColors(static_cast<int>(indices.size()), indices.data(), colors.data());
+    pump();
+  }
+
+  const std::vector<int> indices;
+  std::vector<COLORREF> before;
+};
 
 // The toolbar's form, unfolded and on the screen, with the swatches out of the way.
 class ToolbarOnScreen : public testing::Test {
@@ -73,7 +95,7 @@ class ToolbarOnScreen : public testing::Test {
     return dpi;
   }
 
-  std::string folder;  // where there is no resource file
+  std::string folder;  // of the buttons' pictures: there are none unless a test says where
   SystemWindowFactory factory;
   std::shared_ptr<Window> form;
   std::vector<std::string> pressed;

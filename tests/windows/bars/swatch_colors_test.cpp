@@ -7,24 +7,6 @@
 namespace nerida {
 namespace {
 
-// Other colours for the whole desktop, for as long as it lives.
-class OtherColors {
- public:
-  OtherColors(COLORREF shadow, COLORREF highlight) { set(shadow, highlight); }
-  ~OtherColors() { set(before[0], before[1]); }
-  OtherColors(const OtherColors&) = delete;
-  OtherColors& operator=(const OtherColors&) = delete;
-
- private:
-  static void set(COLORREF shadow, COLORREF highlight) {
-    const int which[] = {COLOR_BTNSHADOW, COLOR_BTNHIGHLIGHT};
-    const COLORREF colors[] = {shadow, highlight};
-    SetSysColors(2, which, colors);
-    pump();
-  }
-  const COLORREF before[2] = {GetSysColor(COLOR_BTNSHADOW), GetSysColor(COLOR_BTNHIGHLIGHT)};
-};
-
 class SwatchColors : public ToolbarOnScreen {
  protected:
   void SetUp() override {
@@ -52,7 +34,7 @@ TEST_F(SwatchColors, FollowTheDesktopAtOnce) {
   const COLORREF red = RGB(200, 10, 20);
   const COLORREF blue = RGB(10, 20, 200);
   {
-    const OtherColors scheme(red, blue);
+    const OtherColors scheme({COLOR_BTNSHADOW, COLOR_BTNHIGHLIGHT}, {red, blue});
     EXPECT_EQ(seen(), std::pair(red, blue));
   }
   EXPECT_EQ(seen(), std::pair(GetSysColor(COLOR_BTNSHADOW), GetSysColor(COLOR_BTNHIGHLIGHT)));
