@@ -35,11 +35,9 @@ Library::Library(const Platform& platform)
 }
 
 void Library::showAboutBox() {
-  ignoringErrors([this] {
-    if (about.isVisible()) return;
-    about.ShowModal();
-    about.unload();
-  });
+  if (about.isVisible()) return;
+  ignoringErrors([this] { about.ShowModal(); });
+  about.unload();  // also what could not be shown: the next call starts with a whole one
 }
 
 }  // namespace nerida

@@ -231,6 +231,15 @@ TEST_F(About, FailsQuietly) {
   EXPECT_THAT(take(), IsEmpty());
 }
 
+TEST_F(About, ThatCannotBeShownIsWholeTheNextTime) {
+  whileOpen([](Box&) { throw Error(error::outOfMemory); });
+  control->ShowAboutBox();
+  EXPECT_EQ(platform.windows.find("frmAbout"), nullptr);
+  platform.windows.modal = nullptr;
+  library.paths.ProductText = "Zephra 2.0";
+  open([](Box& box) { EXPECT_EQ(box.labelControl("lblVersion").caption, "Zephra 2.0"); });
+}
+
 TEST_F(About, IsNoMemberOfTheRegistry) {
   const auto loaded = library.state.gFormLoaded;
   open([this](Box&) { EXPECT_THAT(library.state.gFormShown, testing::Each(false)); });
