@@ -70,12 +70,14 @@ void frmBrowser::runSearch(std::string& query, Search& search) {
   selectFirstHit();
 }
 
-// The counter has 16 bits: more hits than it can count end the search with an overflow.
+// The counter has 16 bits: more hits than it can count end the search with an overflow. A hit whose number the
+// component forgot stands in the list like the others: it can be read, though not previewed.
 void frmBrowser::listHits(const SearchResult& hits) {
   ListView& list = hitList();
   for (std::int16_t i = 0; i < hits.count; i = roundToInt16(i + 1.0)) {
     const bool isAnimated = (hits.flags.at(i) & animatedFlag) != 0;
-    list.add({hits.names.at(i), std::to_string(hits.ids.at(i)), isAnimated ? animatedIcon : 0});
+    list.add({hits.names.at(i), "", isAnimated ? animatedIcon : 0});
+    list.setTag(i, std::to_string(hits.ids.at(i)));
   }
 }
 

@@ -23,6 +23,7 @@ class ListView : public Control {
                              std::span<const char* const> specs) = 0;
   virtual void clear() = 0;  // raises nothing, and leaves no item selected
   virtual void add(ListItem item) = 0;
+  virtual void setTag(int index, const std::string& tag) = 0;  // error 9 outside the list
   virtual int count() const = 0;
   virtual ListItem item(int index) const = 0;  // error 9 outside the list
   virtual int selected() const = 0;            // -1 for none

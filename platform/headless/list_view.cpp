@@ -22,6 +22,11 @@ void Items::add(ListItem item) {
   entries.push_back(std::move(item));
 }
 
+void Items::setTag(int index, const std::string& tag) {
+  if (index < 0 || index >= count()) throw Error(error::subscriptOutOfRange);
+  entries[static_cast<std::size_t>(index)].tag = tag;
+}
+
 ListItem Items::item(int index) const {
   if (index < 0 || index >= count()) throw Error(error::subscriptOutOfRange);
   return entries[static_cast<std::size_t>(index)];

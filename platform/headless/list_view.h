@@ -16,6 +16,7 @@ class Items : public Basic<ListView> {
   void setSmallIcons(const std::string& folder, const std::string& file, std::span<const char* const> specs) override;
   void clear() override;
   void add(ListItem item) override;
+  void setTag(int index, const std::string& tag) override;
   int count() const override { return static_cast<int>(entries.size()); }
   ListItem item(int index) const override;
   int selected() const override { return selection; }

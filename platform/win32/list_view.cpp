@@ -105,6 +105,11 @@ void SystemListView::tellCount() {
   fitColumn();  // beside a scroll bar, if there is one now
 }
 
+void SystemListView::setTag(int index, const std::string& tag) {
+  if (index < 0 || index >= count()) throw Error(error::subscriptOutOfRange);
+  items[static_cast<std::size_t>(index)].tag = tag;
+}
+
 ListItem SystemListView::item(int index) const {
   if (index < 0 || index >= count()) throw Error(error::subscriptOutOfRange);
   return items[static_cast<std::size_t>(index)];

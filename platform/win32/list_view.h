@@ -20,6 +20,7 @@ class SystemListView final : public ControlOf<ListView> {
   void setSmallIcons(const std::string& folder, const std::string& file, std::span<const char* const> specs) override;
   void clear() override;
   void add(ListItem item) override;
+  void setTag(int index, const std::string& tag) override;
   int count() const override { return static_cast<int>(items.size()); }
   ListItem item(int index) const override;
   int selected() const override;

@@ -128,9 +128,12 @@ TEST_F(ListContract, KeepsItsItems) {
   EXPECT_EQ(items().count(), 2);
   EXPECT_EQ(items().item(0), (ListItem{"M\xC3\xBChle & \"co\"", "42", 1}));
   EXPECT_EQ(items().item(1), (ListItem{"", "-1", 0}));
+  items().setTag(1, "7");
+  EXPECT_EQ(items().item(1), (ListItem{"", "7", 0}));
   for (const int index : {-1, 2}) {
     EXPECT_EQ(errorOf([&] { (void)items().item(index); }), error::subscriptOutOfRange);
     EXPECT_EQ(errorOf([&] { items().select(index); }), error::subscriptOutOfRange);
+    EXPECT_EQ(errorOf([&] { items().setTag(index, "7"); }), error::subscriptOutOfRange);
   }
 }
 

@@ -52,6 +52,19 @@ TEST_F(CatalogSearch, AnUntouchedBoxGivesASurprise) {
   EXPECT_EQ(menu().caption("mnuSearch", 0), ":Surprise Me");
 }
 
+TEST_F(CatalogSearch, ASurpriseStandsInTheBoxBeforeItIsLookedForAndReachesTheCallerAsARandomQuery) {
+  platform.search.search = [](std::string&) { return SearchResult(); };
+  for (const char* text : {"Enter Keyword(s) for Model Search", ":Surprise Me"}) {
+    std::string query = text;
+    library.browser.DictionarySearch(query);
+    EXPECT_EQ(query, ":Random");
+    EXPECT_THAT(take(),
+                ElementsAre("pointer 11", "txtSearch: text :Surprise Me", "lstModels: clear",
+                            "search component: create", "search component: search :Random",
+                            "lblResults: caption  Search Results (0)", "search component: release", "pointer 0"));
+  }
+}
+
 TEST_F(CatalogSearch, TypingTheSurpriseQueryGivesASurprise) {
   searchBox().enter(":Surprise Me");
   EXPECT_THAT(queries(), ElementsAre("search component: search :Random"));
@@ -207,7 +220,7 @@ TEST_P(CatalogShortArrays, EndTheSearchWhereTheyEnd) {
 
 INSTANTIATE_TEST_SUITE_P(Arrays, CatalogShortArrays,
                          testing::Values(ShortCase{"names", {{0, {"a"}}, {0, {1, 2}}, {0, {0, 0}}, 2}, 1},
-                                         ShortCase{"ids", {{0, {"a", "b"}}, {0, {1}}, {0, {0, 0}}, 2}, 1},
+                                         ShortCase{"ids", {{0, {"a", "b"}}, {0, {1}}, {0, {0, 0}}, 2}, 2},
                                          ShortCase{"flags", {{0, {"a", "b"}}, {0, {1, 2}}, {0, {0}}, 2}, 1},
                                          ShortCase{"none", {{}, {}, {}, 1}, 0},
                                          ShortCase{
