@@ -144,8 +144,9 @@ void frmBrowser::SetCallback() {
   self.hook([&self](const Message& message) { return self.callPrevious(message); });
 }
 
+// The window is not touched as others touch it, which would mark the form as loaded again while it unloads.
 void frmBrowser::RestoreCallback() {
-  if (isLoaded()) window().unhook();
+  if (isLoaded()) loadedWindow().unhook();
 }
 
 }  // namespace nerida

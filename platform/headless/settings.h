@@ -3,6 +3,7 @@
 #include <map>
 #include <string>
 
+#include "platform/error.h"
 #include "platform/settings.h"
 
 namespace nerida::headless {
@@ -14,10 +15,12 @@ class MemorySettings : public Settings {
     return found == texts.end() ? fallback : found->second;
   }
   void write(const std::string& section, const std::string& key, const std::string& text) override {
+    if (!isWritable) throw Error(error::invalidCall);
     texts[{section, key}] = text;
   }
 
   std::map<std::pair<std::string, std::string>, std::string> texts;  // by section and key
+  bool isWritable = true;
 };
 
 }  // namespace nerida::headless
