@@ -31,7 +31,8 @@ class ListView : public Control {
   virtual void select(int index) = 0;
   virtual void refresh() = 0;
 
-  // The user clicked an item, also one that was selected already, or went to it with the keyboard.
+  // The user clicked an item, also one that was selected already, or went to it with the keyboard: by the arrows, or by
+  // typing how its text begins.
   std::function<void(int index)> itemClick;
 };
 

@@ -1,5 +1,7 @@
 #include "platform/headless/list_view.h"
 
+#include <algorithm>
+#include <cctype>
 #include <stdexcept>
 
 #include "platform/error.h"
@@ -42,6 +44,19 @@ void Items::click(int index) {
   if (index < 0 || index >= count()) throw std::logic_error(name + " has no item " + std::to_string(index));
   selection = index;
   if (itemClick) itemClick(index);
+}
+
+void Items::type(const std::string& beginning) {
+  const auto isSame = [](unsigned char one, unsigned char other) { return std::tolower(one) == std::tolower(other); };
+  const auto begins = [&](const std::string& text) {
+    return std::ranges::equal(text.substr(0, beginning.size()), beginning, isSame);
+  };
+  for (int step = 1; step <= count(); ++step) {
+    const int index = (selection + step) % count();
+    if (!begins(item(index).text)) continue;
+    if (index != selection) click(index);
+    return;
+  }
 }
 
 }  // namespace nerida::headless

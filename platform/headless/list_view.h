@@ -25,6 +25,8 @@ class Items : public Basic<ListView> {
 
   // The user clicks an item.
   void click(int index);
+  // The user types the beginning of an item's text; the next one that begins so is gone to.
+  void type(const std::string& beginning);
 
   std::vector<ListItem> entries;
   std::vector<std::string> smallIcons;

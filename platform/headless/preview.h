@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 
@@ -9,7 +10,7 @@
 
 namespace nerida::headless {
 
-// A preview of values. Reading is not written down, but for the orientation; all members may be made to fail by name.
+// A preview of values. Reading is not written down; all members may be made to fail, or to do anything, by name.
 class PreviewControl : public Basic<Preview> {
  public:
   using Basic::Basic;
@@ -54,10 +55,15 @@ class PreviewControl : public Basic<Preview> {
   std::string style = "Ink Outline";
   std::int32_t scale = 100;
   std::array<std::int32_t, 3> angles{};
+  bool installed = true;
   std::map<std::string, Error> failures;  // by member; "ModelFile =" is the writing of it
+  // Run once before a member does its work, as a component may do anything inside a call.
+  std::map<std::string, std::function<void()>> hooks;
 
  private:
-  void enter(const std::string& member) const {
+  void enter(const std::string& member) {
+    if (!installed) throw Error(error::cannotCreateObject);
+    if (const auto hook = hooks.extract(member)) hook.mapped()();
     const auto failure = failures.find(member);
     if (failure != failures.end()) throw failure->second;
   }

@@ -1,5 +1,6 @@
 #include "platform/win32/list_view.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/error.h"
@@ -151,6 +152,23 @@ void SystemListView::describe(LVITEMW& shown) const {
   if ((shown.mask & LVIF_IMAGE) != 0) shown.iImage = described.smallIcon;
 }
 
+// The item that begins with what the user types, from a place on; -1 for none. Only we know the texts, and the system
+// takes a bare 0 for the first item.
+int SystemListView::find(const NMLVFINDITEMW& asked) const {
+  if ((asked.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0 || asked.lvfi.psz == nullptr) return -1;
+  const int length = lstrlenW(asked.lvfi.psz);
+  for (int step = 0; step < count(); ++step) {
+    const int index = (std::max(asked.iStart, 0) + step) % count();
+    const std::wstring text = wide(items[static_cast<std::size_t>(index)].text);
+    const int compared = std::min(length, static_cast<int>(text.size()));
+    if (CompareStringW(LOCALE_USER_DEFAULT, NORM_IGNORECASE, text.c_str(), compared, asked.lvfi.psz, length) ==
+        CSTR_EQUAL) {
+      return index;
+    }
+  }
+  return -1;
+}
+
 // A press is a click when the button has come up again; what the program does with it must not run inside of it.
 LRESULT SystemListView::onNotify(const NMHDR& notification) {
   switch (notification.code) {
@@ -160,6 +178,8 @@ LRESULT SystemListView::onNotify(const NMHDR& notification) {
       describe(asked.item);
       break;
     }
+    case LVN_ODFINDITEMW:
+      return find(reinterpret_cast<const NMLVFINDITEMW&>(notification));
     case LVN_ITEMCHANGED: {
       const auto& change = reinterpret_cast<const NMLISTVIEW&>(notification);
       const bool isSelected = (change.uNewState & LVIS_SELECTED) != 0 && (change.uOldState & LVIS_SELECTED) == 0;

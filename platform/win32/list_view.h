@@ -33,6 +33,7 @@ class SystemListView final : public ControlOf<ListView> {
   bool takesFocus() const override;
   void reposition() override;
   void describe(LVITEMW& shown) const;
+  int find(const NMLVFINDITEMW& asked) const;
   void unselect(UINT which);  // LVNI_SELECTED or LVNI_FOCUSED
   void tellCount();
   void tellCountLater();

@@ -164,6 +164,22 @@ TEST_F(ListContract, EveryClickOfTheUserIsRaisedOnce) {
   EXPECT_EQ(take(), Events{"item 0"});
 }
 
+TEST_F(ListContract, TypingGoesToTheNextItemThatBeginsSo) {
+  show();
+  for (const char* text : {"Windmill", "Sailboat", "Swan", "sword"}) items().add({text, "1", 0});
+  items().select(0);
+  const auto type = [&](const char* text) {
+    subject->typeInList(*form, "items", text);
+    return take();
+  };
+  EXPECT_EQ(type("s"), Events{"item 1"});
+  EXPECT_EQ(type("sw"), Events{"item 2"});
+  EXPECT_EQ(type("S"), Events{"item 3"});
+  EXPECT_EQ(type("x"), Events{});
+  EXPECT_EQ(items().selected(), 3);
+  EXPECT_EQ(type("w"), Events{"item 0"});
+}
+
 TEST_F(ListContract, HoldsVeryManyItems) {
   show();
   for (int i = 0; i < 32768; ++i) items().add({"Item " + std::to_string(i), std::to_string(i), i % 2});

@@ -137,9 +137,23 @@ class HeadlessSubject : public Subject {
     return true;
   }
 
+  void typeInList(Window& window, const std::string& list, const std::string& text) override {
+    inner(window).items(list).type(text);
+  }
+
   std::string folder() override { return "c:\\contract\\"; }
   void installSearch() override { platform.search.installed = true; }
   void removeSearch() override { platform.search.installed = false; }
+
+  void setPreviewPresent(Window& window, const std::string& preview, bool present) override {
+    headless::PreviewControl& control = inner(window).previewControl(preview);
+    control.installed = present;
+    control.scale = 70000;
+    control.angles = {100, -200, 36000};
+    control.hooks["Load"] = [&control] {
+      if (control.file == "nobody.twe") throw Error(error::fileNotFound, "No such model");
+    };
+  }
 
   void close(Window& window) override { inner(window).userCloses(); }
   void click(Window& window) override { inner(window).userClicks(); }

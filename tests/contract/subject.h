@@ -44,6 +44,8 @@ class Subject {
   virtual bool chooseMenu(Window& window, const std::string& name, int index) = 0;
   virtual bool pressButton(Window& window, const std::string& name, int index) = 0;
   virtual bool clickItem(Window& window, const std::string& list, int item) = 0;
+  // Letters typed into a list, after a pause.
+  virtual void typeInList(Window& window, const std::string& list, const std::string& text) = 0;
   virtual void close(Window& window) = 0;
   virtual void click(Window& window) = 0;
   // So many milliseconds pass, in which the program takes its messages.
@@ -71,6 +73,10 @@ class Subject {
   // Whether there is a search component; it answers as prepared_search.h says.
   virtual void installSearch() = 0;
   virtual void removeSearch() = 0;
+
+  // Whether there is a component behind a preview: one in the style "Ink Outline", scaled to 70000 and turned by 100,
+  // -200 and 36000, which refuses to load "nobody.twe" with error 53 "No such model".
+  virtual void setPreviewPresent(Window& window, const std::string& preview, bool present) = 0;
 
   // An object with the properties Name (text) and Number (32 bit), and the methods Add(a, b), Fill(ByRef variable),
   // Increase(ByRef number), Refuse, which raises error 380 "Bad value", and Crash, which raises 91 without a text.

@@ -34,31 +34,7 @@ int positionOf(HMENU menu, const MenuEntry& entry) {
   return -1;
 }
 
-class Factory final : public IClassFactory {
- public:
-  virtual ~Factory() = default;
-  STDMETHODIMP QueryInterface(REFIID id, void** result) override {
-    *result = id == IID_IUnknown || id == IID_IClassFactory ? this : nullptr;
-    return *result != nullptr ? S_OK : E_NOINTERFACE;
-  }
-  STDMETHODIMP_(ULONG) AddRef() override { return 2; }
-  STDMETHODIMP_(ULONG) Release() override { return 1; }
-  STDMETHODIMP CreateInstance(IUnknown*, REFIID id, void** result) override {
-    if (!present) return REGDB_E_CLASSNOTREG;
-    SearchInterface* component = createPreparedSearch();
-    const HRESULT status = component->QueryInterface(id, result);
-    component->Release();
-    return status;
-  }
-  STDMETHODIMP LockServer(BOOL) override { return S_OK; }
-
-  bool present = true;
-};
-
-Factory& factory() {
-  static Factory instance;
-  return instance;
-}
+IUnknown* newSearch() { return createPreparedSearch(); }
 
 // One white pixel.
 constexpr std::array<unsigned char, 58> picture = {
@@ -114,16 +90,8 @@ ScratchFolder::~ScratchFolder() {
 
 std::string ScratchFolder::path() const { return utf8(folder); }
 
-SearchRegistration::SearchRegistration() {
-  CoInitialize(nullptr);
-  CoRegisterClassObject(classSearch, &factory(), CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &cookie);
-}
+SearchRegistration::SearchRegistration() : registered(classSearch, newSearch) {}
 
-SearchRegistration::~SearchRegistration() {
-  CoRevokeClassObject(cookie);
-  CoUninitialize();
-}
-
-void SearchRegistration::setPresent(bool present) { factory().present = present; }
+void SearchRegistration::setPresent(bool present) { registered.setPresent(present); }
 
 }  // namespace nerida

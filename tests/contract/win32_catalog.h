@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/form_menu.h"
+#include "tests/contract/local_class.h"
 
 namespace nerida {
 
@@ -29,13 +30,10 @@ class ScratchFolder {
 class SearchRegistration {
  public:
   SearchRegistration();
-  ~SearchRegistration();
-  SearchRegistration(const SearchRegistration&) = delete;
-  SearchRegistration& operator=(const SearchRegistration&) = delete;
   void setPresent(bool present);
 
  private:
-  DWORD cookie = 0;
+  LocalClass registered;
 };
 
 }  // namespace nerida

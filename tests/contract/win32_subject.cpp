@@ -27,6 +27,7 @@
 #include "tests/contract/contract_object.h"
 #include "tests/contract/subject.h"
 #include "tests/contract/win32_catalog.h"
+#include "tests/contract/win32_preview.h"
 #include "tests/windows/bars/accessible_client.h"
 
 namespace nerida {
@@ -185,9 +186,18 @@ class Win32Subject : public Subject {
     return true;
   }
 
+  void typeInList(Window& window, const std::string& list, const std::string& text) override {
+    pass(window, 600);  // what was typed before counts no more
+    const HWND view = dynamic_cast<SystemListView&>(window.listView(list)).window();
+    for (const wchar_t letter : wide(text)) PostMessageW(view, WM_CHAR, letter, 1);
+    pump();
+  }
+
   std::string folder() override { return scratch.path(); }
   void installSearch() override { search.setPresent(true); }
   void removeSearch() override { search.setPresent(false); }
+
+  void setPreviewPresent(Window&, const std::string&, bool present) override { preview.setPresent(present); }
 
   void close(Window& window) override {
     PostMessageW(windowOf(window), WM_SYSCOMMAND, SC_CLOSE, 0);
@@ -304,6 +314,7 @@ class Win32Subject : public Subject {
 
   const ScratchFolder scratch;
   SearchRegistration search;
+  PreviewRegistration preview;
   SystemDesktop desktop;
   SystemWindowFactory windows;
   SystemPrompts prompts;
