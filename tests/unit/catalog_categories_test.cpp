@@ -1,4 +1,6 @@
 // The category menus: how they are filled from the search component's list, and the searches that they start.
+#include <limits>
+
 #include "tests/unit/catalog_desk.h"
 
 namespace nerida {
@@ -51,8 +53,18 @@ TEST_F(Categories, AreFilledInOrder) {
   EXPECT_THAT(subMenu(3), IsEmpty());
 }
 
-TEST_F(Categories, ComeFromAComponentThatIsReleasedAgain) {
-  platform.search.categories = [] { return listOf({1}); };
+struct ComponentEnd {
+  const char* what;
+  CategoryList (*answer)();
+};
+
+void PrintTo(const ComponentEnd& end, std::ostream* out) { *out << end.what; }
+
+class CategoryComponent : public Categories, public testing::WithParamInterface<ComponentEnd> {};
+
+TEST_P(CategoryComponent, IsReleasedHoweverTheFillingEnds) {
+  platform.search.categories = GetParam().answer;
+  answerBoxes(1);
   create();
   Lines lines = take();
   std::erase_if(lines, [](const std::string& line) { return !line.starts_with("search component"); });
@@ -60,9 +72,26 @@ TEST_F(Categories, ComeFromAComponentThatIsReleasedAgain) {
               ElementsAre("search component: create", "search component: categories", "search component: release"));
 }
 
+INSTANTIATE_TEST_SUITE_P(Ends, CategoryComponent,
+                         testing::Values(ComponentEnd{"filled", [] { return listOf({1}); }},
+                                         ComponentEnd{"none", [] { return CategoryList(); }},
+                                         ComponentEnd{"too short",
+                                                      [] {
+                                                        CategoryList list = listOf({1});
+                                                        list.lastCategory = 1;
+                                                        return list;
+                                                      }},
+                                         ComponentEnd{"failing", []() -> CategoryList { throw Error(513); }}));
+
 TEST_F(Categories, NoneLeaveTheDesignedMenu) {
-  EXPECT_THAT(fill(CategoryList()), IsEmpty());
-  EXPECT_THAT(menu().inSight("mnuCategory"), ElementsAre("Surprise Me"));
+  for (const std::int32_t last : {-1, -2, std::numeric_limits<std::int32_t>::min()}) {
+    CategoryList list = listOf({1});  // what the arrays hold does not count
+    list.lastCategory = last;
+    EXPECT_THAT(fill(list), IsEmpty());
+    EXPECT_THAT(menu().inSight("mnuCategory"), ElementsAre("Surprise Me"));
+    control.reset();
+    take();
+  }
 }
 
 TEST_F(Categories, AnEmptyOneTakesNoNames) {
@@ -85,6 +114,13 @@ TEST_F(Categories, ASixteenthHasNoMenuAndLaterOnesNeverAppear) {
 TEST_F(Categories, ExactlySixteenAreFilledFromAListOfSixteen) {
   fill(listOf(std::vector<std::int16_t>(16, 1)));
   EXPECT_EQ(menu().inSight("mnuCategory").size(), 17U);
+}
+
+TEST_F(Categories, NothingIsAskedOfTheSixteenthButItsNameAndCount) {
+  CategoryList list = listOf(std::vector<std::int16_t>(16, 1));
+  list.subCategoryNames.elements.pop_back();
+  list.lastCategory = std::numeric_limits<std::int32_t>::max();
+  EXPECT_EQ(fill(list).back(), "mnuCategory(16): caption C16");
 }
 
 TEST_F(Categories, FifteenLeaveTheSixteenthHidden) {

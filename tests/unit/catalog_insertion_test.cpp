@@ -4,6 +4,7 @@
 namespace nerida {
 namespace {
 
+using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -30,6 +31,18 @@ TEST_F(CatalogPreview, DoesNotLoadTheItemThatIsShownAlready) {
   EXPECT_THAT(click(1), IsEmpty());
 }
 
+// Whether it is shown is a matter of the name, and the preview is asked for it each time.
+TEST_F(CatalogPreview, TakesANamesakeForTheModelThatIsShown) {
+  hits().add({"Windmill", "12345", 0});
+  hits().add({"windmill", "12345", 0});
+  take();
+  EXPECT_THAT(click(2), IsEmpty());
+  EXPECT_THAT(click(3), Contains("zephBrowser: Load"));  // capitals count
+  preview().model = "Ship";
+  EXPECT_THAT(click(1), IsEmpty());
+  EXPECT_THAT(click(0), Contains("zephBrowser: Load"));
+}
+
 TEST_F(CatalogPreview, TellsOfAMissingFileAndKeepsItsModel) {
   platform.files.files.erase(shipFile);
   answerBoxes(1);
@@ -48,9 +61,11 @@ TEST_F(CatalogPreview, TellsOfADriveThatIsGone) {
 }
 
 TEST_F(CatalogPreview, ATagThatIsNoNumberIsToldAsItIs) {
-  answerBoxes(1);
-  library.browser.SelectItem({"Strange", "twelve", 0});
-  EXPECT_THAT(take(), ElementsAre("box [Zephra Catalog] Zephra was unable to load model #twelve"));
+  for (const char* tag : {"twelve", "", "2147483648"}) {
+    answerBoxes(1);
+    library.browser.SelectItem({"Strange", tag, 0});
+    EXPECT_THAT(take(), ElementsAre(std::string("box [Zephra Catalog] Zephra was unable to load model #") + tag));
+  }
 }
 
 TEST_F(CatalogPreview, AFailureWhileLoadingLeavesTheNewNames) {
@@ -168,18 +183,30 @@ INSTANTIATE_TEST_SUITE_P(Members, InsertFailure,
                          testing::Values(InsertFailureCase{"ModelName", 1}, InsertFailureCase{"TarnwellXFile", 2},
                                          InsertFailureCase{"ModelScale", 3}, InsertFailureCase{"SetOrientation", 4}));
 
-class InsertPreviewFailure : public CatalogInsertion, public testing::WithParamInterface<const char*> {};
+class InsertPreviewFailure : public CatalogInsertion, public testing::WithParamInterface<InsertFailureCase> {};
 
+// What was read before has arrived.
 TEST_P(InsertPreviewFailure, IsToldAndTheCommandGoesOn) {
-  preview().failures.emplace(GetParam(), Error(error::cannotCreateObject));
+  preview().failures.emplace(GetParam().member, Error(error::cannotCreateObject));
   answerBoxes(1);
-  EXPECT_TRUE(choose("mnuInsertModel"));
-  EXPECT_THAT(takeBoxes(), ElementsAre("box [Zephra Toolbar] Error while inserting model ActiveX component can't "
-                                       "create object"));
+  Lines expected(insertion.begin(), insertion.begin() + static_cast<std::ptrdiff_t>(GetParam().callsBefore));
+  expected = followedBy(expected, {"box [Zephra Toolbar] Error while inserting model ActiveX component can't create "
+                                   "object",
+                                   "model: RefreshDisplay"});
+  EXPECT_EQ(pick("mnuInsertModel"), expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(Members, InsertPreviewFailure,
-                         testing::Values("ModelFile", "ModelName", "ModelScale", "GetOrientation"));
+                         testing::Values(InsertFailureCase{"ModelFile", 0}, InsertFailureCase{"ModelName", 0},
+                                         InsertFailureCase{"ModelScale", 2}, InsertFailureCase{"GetOrientation", 3}));
+
+TEST_F(CatalogInsertion, WithoutAPreviewIsToldByEachCommand) {
+  preview().installed = false;
+  answerBoxes(2);
+  const std::string absent = "box [Zephra Toolbar] Error while inserting model ActiveX component can't create object";
+  EXPECT_THAT(pick("mnuInsertModel"), ElementsAre(absent, "model: RefreshDisplay"));
+  EXPECT_THAT(press(0), ElementsAre(absent, "model: RefreshDisplay"));
+}
 
 TEST_F(CatalogInsertion, WhatFollowsByTheMenuHasItsOwnMessage) {
   model->failures.emplace("RefreshDisplay", Error(5, "No display"));

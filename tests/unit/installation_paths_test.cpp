@@ -174,6 +174,34 @@ TEST_F(InstallationPaths, AMissingDictionaryIsToldInTheEnd) {
   EXPECT_EQ(paths.ModelLibraryPath, "M");
 }
 
+// Somebody takes the installation away before a reading, counted from 1.
+class VanishingRegistry : public Registry {
+ public:
+  VanishingRegistry(headless::MemoryRegistry& behind, int reading) : behind(behind), readingsLeft(reading) {}
+  std::unique_ptr<RegistryKey> openLocalMachine() override {
+    if (--readingsLeft == 0) behind.keys.erase(zephra);
+    return behind.openLocalMachine();
+  }
+
+ private:
+  headless::MemoryRegistry& behind;
+  int readingsLeft;
+};
+
+class VanishingKey : public InstallationPaths, public testing::WithParamInterface<int> {};
+
+TEST_P(VanishingKey, IsToldAndEndsTheReadingThere) {
+  registry.keys[zephra] = {{"Help", "H"}, {"DefDir", "\\cd"}};  // without a dictionary, which is not told any more
+  registry.keys[version] = {{"Other", "o"}};
+  VanishingRegistry vanishing(registry, GetParam());
+  ReadInstallationPaths(paths, vanishing, messages);
+  EXPECT_THAT(transcript.take(), ElementsAre(accessBox("Zephra: 2")));
+  EXPECT_EQ(paths.HelpPath, "H");
+  EXPECT_EQ(paths.CdModelDirectory, "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Readings, VanishingKey, testing::Values(2, 3));
+
 class BrokenRegistry : public Registry {
  public:
   std::unique_ptr<RegistryKey> openLocalMachine() override { throw Error(error::outOfMemory); }

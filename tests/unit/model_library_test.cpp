@@ -109,6 +109,18 @@ TEST_F(Locator, TakesTheLastOfSeveralDrives) {
               ElementsAre("list d:\\models\\graphics\\", "list e:\\models\\graphics\\", "list z:\\models\\graphics\\"));
 }
 
+TEST_F(Locator, BeginsWithTheFirstLetterAndAsksForEachOnce) {
+  for (char letter = 'a'; letter <= 'z'; ++letter) files.drives[{letter, ':'}] = DriveType::cdRom;
+  addDrive("a:");
+  EXPECT_TRUE(locate());
+  EXPECT_EQ(paths.CdDrive, "a:");
+  const Lines listed = transcript.take();
+  ASSERT_EQ(listed.size(), 26U);
+  for (std::size_t i = 0; i < listed.size(); ++i) {
+    EXPECT_EQ(listed[i], std::string("list ") + static_cast<char>('a' + i) + ":\\models\\graphics\\");
+  }
+}
+
 TEST_F(Locator, DoesNotTakeADriveThatCannotBeListed) {
   addDrive("d:");
   addDrive("e:");

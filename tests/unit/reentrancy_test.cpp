@@ -82,7 +82,13 @@ const Action catalogEvents[] = {
          catalog.pushButton("cmdInsert", 2).press();
        });
      }},
-    {"InsertByMenu", [](Desk& d) { inCatalog(d, [](auto& catalog) { catalog.menuBar.choose("mnuInsert"); }); }},
+    {"InsertByMenu",
+     [](Desk& d) {
+       inCatalog(d, [](auto& catalog) {
+         catalog.previewControl("zephBrowser").file = catalog.previewControl("zephBrowser").model = "Ship";
+         catalog.menuBar.choose("mnuInsert");
+       });
+     }},
     {"CatalogStyle",
      [](Desk& d) {
        inCatalog(d, [](auto& catalog) {
@@ -198,7 +204,8 @@ class RaisingMember : public testing::TestWithParam<const char*> {};
 
 // Each member raises for a while under everything; the boxes are bounded, and the library works afterwards.
 TEST_P(RaisingMember, LeavesTheLibrarySoundUnderEverything) {
-  for (const auto& actions : {std::span<const Action>(methods), std::span<const Action>(events)}) {
+  for (const auto& actions :
+       {std::span<const Action>(methods), std::span<const Action>(events), std::span<const Action>(catalogEvents)}) {
     for (const Action& outer : actions) {
       for (const std::int32_t number : {5, 7, 438}) {
         SCOPED_TRACE(outer.name);

@@ -203,6 +203,49 @@ TEST_F(InContainer, ObeysTheKeyboard) {
   EXPECT_EQ(numberOf(L"ModelScale"), 100);
 }
 
+// A user who is about to open the menu of a window, and then goes so many times down and presses Enter.
+struct MenuUser {
+  HWND window = nullptr;
+  int down = 0;
+};
+
+MenuUser& menuUser() {
+  static MenuUser user;
+  return user;
+}
+
+void CALLBACK pressKeysInMenu(HWND, UINT, UINT_PTR timer, DWORD) {
+  KillTimer(nullptr, timer);
+  for (int i = 0; i < menuUser().down; ++i) PostMessageW(menuUser().window, WM_KEYDOWN, VK_DOWN, 1);
+  PostMessageW(menuUser().window, WM_KEYDOWN, VK_RETURN, 1);
+}
+
+void pickFromMenu(HWND view, int down) {
+  menuUser() = {view, down};
+  SetTimer(nullptr, 0, 50, pressKeysInMenu);
+  SendMessageW(view, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(view), MAKELPARAM(-1, -1));
+}
+
+TEST_F(InContainer, IsShownInTheStyleThatIsPickedFromItsMenu) {
+  show(movingModel());
+  const std::vector<std::string> styles = Scene::lookStyleNames();
+  for (const int entry : {2, 1, static_cast<int>(styles.size())}) {
+    pickFromMenu(view, entry);
+    EXPECT_EQ(textOf(L"StyleName"), wide(styles[static_cast<std::size_t>(entry) - 1]));
+  }
+  show(movingModel());
+  EXPECT_EQ(textOf(L"StyleName"), wide(styles.back())) << "it stays for the next model";
+}
+
+TEST_F(InContainer, GoesHomeFromItsMenu) {
+  show(movingModel());
+  const Orientation home = orientation();
+  SendMessageW(view, WM_KEYDOWN, VK_RIGHT, 0);
+  ASSERT_NE(orientation(), home);
+  pickFromMenu(view, static_cast<int>(Scene::lookStyleNames().size()) + 1);
+  EXPECT_EQ(orientation(), home);
+}
+
 TEST_F(InContainer, KeepsWhatItShowsWhenAFileIsBad) {
   show(movingModel());
   const int before = drawnPixels();
