@@ -27,6 +27,16 @@ class Catalog(CatalogCase):
         desktop.key("Down")
         self.wait_for_name("Sailboat ")
 
+    def test_a_typed_letter_shows_the_model_that_begins_so(self):
+        self.find_windmill()
+        self.click_item(0)
+        desktop.key("s")
+        self.wait_for_name("Sailboat ")
+        desktop.pause(0.6)  # what was typed before counts no more
+        desktop.key("x")
+        desktop.pause(0.3)
+        self.assertIn("Sailboat ", self.names())
+
     def test_a_missing_file_is_told_and_the_preview_stays(self):
         self.find_windmill()
         self.click_item(2)
@@ -76,6 +86,19 @@ class Catalog(CatalogCase):
         self.assertRegex(calls[3], r"^SetOrientation Long -?\d+ Long -?\d+ Long -?\d+$")
         self.assertRegex(calls[4], r"^LookStyle := String .+$")
         self.assertEqual(calls[5:], ["RefreshDisplay"])
+
+    def test_insert_brings_the_style_that_was_picked_in_the_preview(self):
+        self.find_windmill()
+        styles = []
+        for down in (2, 3):
+            desktop.click(desktop.centre(self.element("Windmill")["rect"]), button=3)
+            self.wait_for_menus(1)
+            desktop.key(*["Down"] * down, "Return")
+            self.wait_for_menus(0)
+            self.client.forget()
+            self.press("Insert")
+            styles.append(self.client.told(6)[4])
+        self.assertNotEqual(*styles)
 
     def test_insert_model_only_keeps_the_style(self):
         self.find_windmill()
