@@ -64,7 +64,9 @@ class UndoneInsertion : public UndoneCatalog,
                         public testing::WithParamInterface<std::tuple<InsertCommand, const char*, CatalogUndoing>> {};
 
 TEST_P(UndoneInsertion, EndsQuietlyInTheMemberThatUndidIt) {
-  const auto& [command, member, undoing] = GetParam();
+  const InsertCommand& command = std::get<0>(GetParam());
+  const std::string member = std::get<1>(GetParam());
+  const CatalogUndoing& undoing = std::get<2>(GetParam());
   model->hooks[member] = [&] {
     model->hooks.clear();
     undoing.run(control);
@@ -75,7 +77,7 @@ TEST_P(UndoneInsertion, EndsQuietlyInTheMemberThatUndidIt) {
   ASSERT_TRUE(model->hooks.empty());  // the member was reached
   const Lines told = ofInsertion(lines);
   ASSERT_FALSE(told.empty());
-  EXPECT_THAT(told.back(), testing::StartsWith(std::string("model: ") + member));
+  EXPECT_THAT(told.back(), testing::StartsWith("model: " + member));
 }
 
 INSTANTIATE_TEST_SUITE_P(OfTheModel, UndoneInsertion,
@@ -105,7 +107,8 @@ class UndonePreview : public UndoneCatalog,
                       public testing::WithParamInterface<std::tuple<PreviewUse, CatalogUndoing>> {};
 
 TEST_P(UndonePreview, IsNotTouchedAgain) {
-  const auto& [use, undoing] = GetParam();
+  const PreviewUse& use = std::get<0>(GetParam());
+  const CatalogUndoing& undoing = std::get<1>(GetParam());
   bool reached = false;
   preview().hooks[use.member] = [&] {
     reached = true;
