@@ -1,5 +1,7 @@
 #include "host/search/engine.h"
 
+#include <optional>
+
 #include "host/search/database.h"
 #include "host/search/random_numbers.h"
 #include "host/search/ranked_hits.h"
@@ -22,15 +24,25 @@ Hit hitOf(Statement& row) {
 
 struct SearchEngine::Parts {
   explicit Parts(const EngineFiles& files)
-      : database(openModelDatabase(files.database)), tokenizer(database), thesaurus(tokenizer), relevance(database) {
-    thesaurus.read(files.thesaurus);
-    thesaurus.read(files.userThesaurus);
+      : database(openModelDatabase(files.database)), tokenizer(database), relevance(database), files(files) {}
+
+  // Only words have synonyms: who asks for the categories does not wait for them.
+  const Thesaurus& thesaurus() {
+    if (!synonyms) {
+      synonyms.emplace(tokenizer);
+      synonyms->read(files.thesaurus);
+      synonyms->read(files.userThesaurus);
+    }
+    return *synonyms;
   }
 
   Database database;
   Tokenizer tokenizer;
-  Thesaurus thesaurus;
   Relevance relevance;
+
+ private:
+  EngineFiles files;
+  std::optional<Thesaurus> synonyms;
 };
 
 SearchEngine::SearchEngine(const EngineFiles& files) : parts(std::make_unique<Parts>(files)) {}
@@ -41,7 +53,7 @@ std::vector<Hit> SearchEngine::searchKeywords(std::string_view text) {
   // One view of the database for all steps, whatever others write meanwhile.
   const Transaction view(parts->database, Transaction::Kind::reading);
   Vocabulary vocabulary(parts->database, parts->tokenizer);
-  const Question question = understand(text, parts->tokenizer, parts->thesaurus, vocabulary);
+  const Question question = understand(text, parts->tokenizer, parts->thesaurus(), vocabulary);
   if (question.empty()) return {};
   parts->relevance.setQuestion(question);
   const std::string wanted = expression(question);

@@ -9,8 +9,9 @@
 
 namespace nerida {
 
-SystemButtonBar::SystemButtonBar(FormWindow& owner, const ControlLayout& row) : ControlOf(owner, row) {
+void SystemButtonBar::create() {
   createOwn(buttonBarClass, 0);
+  if (isLaidOut) measureAll();
 }
 
 SystemButtonBar::~SystemButtonBar() {
@@ -21,6 +22,7 @@ void SystemButtonBar::setEnabled(bool enable) {
   if (enabled == enable) return;
   enabled = enable;
   cancelPress();
+  if (!exists()) return;
   InvalidateRect(window(), nullptr, FALSE);
   NotifyWinEvent(EVENT_OBJECT_STATECHANGE, window(), OBJID_CLIENT, CHILDID_SELF);
 }
@@ -68,8 +70,14 @@ void SystemButtonBar::setCaption(const std::string& text) { lastAdded().caption 
 
 void SystemButtonBar::setAccessibleName(const std::string& text) { lastAdded().accessibleName = wide(text); }
 
-void SystemButtonBar::recomputeLayout() {
+void SystemButtonBar::measureAll() {
   for (BarLayout& each : layouts) measure(each);
+}
+
+void SystemButtonBar::recomputeLayout() {
+  isLaidOut = true;
+  if (!exists()) return;
+  measureAll();
   form().tooltips().forget(window());
   InvalidateRect(window(), nullptr, FALSE);
 }
@@ -91,6 +99,7 @@ void SystemButtonBar::showLayout(const std::string& name) {
   hot = none;
   focused = none;
   current = index;
+  if (!exists()) return;
   form().tooltips().forget(window());
   InvalidateRect(window(), nullptr, FALSE);
   NotifyWinEvent(EVENT_OBJECT_REORDER, window(), OBJID_CLIENT, CHILDID_SELF);
@@ -169,11 +178,11 @@ bool SystemButtonBar::looksDown(int index) const {
 }
 
 void SystemButtonBar::redraw(int index) {
-  if (index >= 0 && index < buttonCount()) InvalidateRect(window(), &button(index).area, FALSE);
+  if (exists() && index >= 0 && index < buttonCount()) InvalidateRect(window(), &button(index).area, FALSE);
 }
 
 void SystemButtonBar::announce(DWORD event, int index) const {
-  if (index != none) NotifyWinEvent(event, window(), OBJID_CLIENT, index + 1);
+  if (exists() && index != none) NotifyWinEvent(event, window(), OBJID_CLIENT, index + 1);
 }
 
 // A hand points before it presses, and what the form shows below the pointer is what is pressed.

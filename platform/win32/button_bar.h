@@ -33,7 +33,8 @@ struct BarLayout {
 // One window that draws all its buttons itself. Buttons are named by their index in the shown layout.
 class SystemButtonBar final : public ControlOf<ButtonBar>, private ControlParts {
  public:
-  SystemButtonBar(FormWindow& owner, const ControlLayout& row);
+  using ControlOf::ControlOf;
+  void create() override;
   ~SystemButtonBar() override;
 
   void setEnabled(bool enabled) override;
@@ -111,6 +112,7 @@ class SystemButtonBar final : public ControlOf<ButtonBar>, private ControlParts 
   void paintCaption(HDC dc, int index);
   POINT pictureOrigin(const BarButton& item, int index) const;
   const Picture* pictureOf(BarButton& item);
+  void measureAll();
   void measure(BarLayout& measured);
   void measureRow(BarLayout& measured, SIZE bar);
   bool looksDown(int index) const;
@@ -121,6 +123,7 @@ class SystemButtonBar final : public ControlOf<ButtonBar>, private ControlParts 
   std::string folder;
   std::string file;
   std::shared_ptr<const BitmapResources> resources;
+  bool isLaidOut = false;
   bool enabled = true;
   bool tooltipsShown = false;
   bool tracking = false;

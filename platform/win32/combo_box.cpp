@@ -14,8 +14,8 @@ constexpr int listHeight = 200;  // of the dropped list at 96 dpi; the list itse
 
 }  // namespace
 
-SystemComboBox::SystemComboBox(FormWindow& owner, const ControlLayout& row) : ControlOf(owner, row) {
-  createStandard(L"COMBOBOX", nullptr, CBS_DROPDOWNLIST | WS_VSCROLL, 0, owner.scale().design(listHeight));
+void SystemComboBox::create() {
+  createStandard(L"COMBOBOX", nullptr, CBS_DROPDOWNLIST | WS_VSCROLL, 0, form().scale().design(listHeight));
   fitHeight();
 }
 

@@ -6,7 +6,8 @@ namespace nerida {
 
 class SystemComboBox final : public ControlOf<ComboBox> {
  public:
-  SystemComboBox(FormWindow& owner, const ControlLayout& row);
+  using ControlOf::ControlOf;
+  void create() override;
 
   void clear() override;
   void addItem(const std::string& text) override;

@@ -1,6 +1,7 @@
 #include "platform/win32/form_window.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <stdexcept>
 
 #include "platform/error.h"
@@ -46,10 +47,23 @@ bool canPaintControls(const FormLayout& layout) {
          });
 }
 
-UniqueFont createMessageFont() {
+// Where people read from right to left a program may have all its windows mirrored. What is left and right on ours is
+// so in space, of the model and of the light, and must stay there; so must their texts, which are in one language.
+void keepFromLeftToRight(HWND window) {
+  const LONG_PTR style = GetWindowLongPtrW(window, GWL_EXSTYLE);
+  if ((style & WS_EX_LAYOUTRTL) != 0) SetWindowLongPtrW(window, GWL_EXSTYLE, style & ~LONG_PTR{WS_EX_LAYOUTRTL});
+}
+
+// In pixels at 96 dpi: the layouts' sizes are fixed, and higher letters would be cut.
+constexpr int highestLetters = 12;
+
+UniqueFont createMessageFont(const Scale& scale) {
   NONCLIENTMETRICSW metrics = {};
   metrics.cbSize = sizeof metrics;
   SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+  LONG& height = metrics.lfMessageFont.lfHeight;
+  const LONG highest = scale.design(highestLetters);
+  if (std::abs(height) > highest) height = -highest;
   return UniqueFont(CreateFontIndirectW(&metrics.lfMessageFont));
 }
 
@@ -85,7 +99,7 @@ FormWindow::FormWindow(const FormLayout& layout)
       paintsControls(canPaintControls(layout)),
       screenScale(layout.onPicture ? Scale::ofPictures() : Scale::ofScreen()),
       menuBar(layout.menu),
-      messageFont(createMessageFont()) {}
+      messageFont(createMessageFont(screenScale)) {}
 
 HWND FormWindow::realized() const {
   if (!isRealized) const_cast<FormWindow*>(this)->realize();  // no form is made constant
@@ -104,10 +118,12 @@ void FormWindow::realize() {
   menuBar.attach(hwnd);
   try {
     if (hwnd == nullptr) throw Error(error::outOfMemory);
+    keepFromLeftToRight(hwnd);
     tips.emplace(hwnd);
     fitRows();
     if (isDialog()) centre(nullptr);
-    createControls(layout.controls);
+    makeControls();
+    for (const auto& control : controls) control->create();
   } catch (...) {
     discardWindows();
     throw;
@@ -119,7 +135,6 @@ void FormWindow::realize() {
 void FormWindow::discardWindows() {
   tips.reset();
   if (hwnd != nullptr) DestroyWindow(hwnd);
-  controls.clear();
   isRealized = false;
 }
 
@@ -152,8 +167,9 @@ RECT FormWindow::place(const ControlLayout& row) const {
 
 // The first child is the topmost. On a popup controls lie on a panel, a picture that its layout lists behind them; on
 // other forms pictures lie over the other controls, wherever they stand in the layout.
-void FormWindow::createControls(std::span<const ControlLayout> rows) {
-  controls.reserve(rows.size());  // a control that has its window must find its place
+void FormWindow::makeControls() {
+  if (!controls.empty()) return;
+  const std::span<const ControlLayout> rows = layout.controls;
   const auto isInFront = [this](const ControlLayout& row) {
     return frame == FormFrame::popup || row.kind == ControlKind::pictureBox;
   };
@@ -251,7 +267,7 @@ int FormWindow::popUpMenuRightAligned(std::span<const char* const> captions, Twi
 
 template <class Interface>
 Interface& FormWindow::find(const std::string& name, int index) {
-  realized();
+  makeControls();
   for (const auto& control : controls) {
     if (name != control->layout().name || index != control->layout().index) continue;
     if (auto* found = dynamic_cast<Interface*>(control.get())) return *found;

@@ -142,7 +142,7 @@ class FormWindow final : public Window {
   void rememberFocus();
   void moveFocus(const NativeControl* from, bool backward);
   void fitRows();
-  void createControls(std::span<const ControlLayout> rows);
+  void makeControls();
   NativeControl* controlOf(HWND window) const;
   void leaveUnreachableFocus();
   void centre(HWND after);

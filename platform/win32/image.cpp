@@ -24,9 +24,9 @@ SIZE sizeIn(SIZE room, const Picture& picture) {
 
 }  // namespace
 
-SystemImage::SystemImage(FormWindow& owner, const ControlLayout& row) : ControlOf(owner, row), current(row.bounds) {
-  createOwn(pictureBoxClass, 0);
-}
+SystemImage::SystemImage(FormWindow& owner, const ControlLayout& row) : ControlOf(owner, row), current(row.bounds) {}
+
+void SystemImage::create() { createOwn(pictureBoxClass, 0); }
 
 void SystemImage::setPicture(std::shared_ptr<const StoredPicture> picture) {
   shownPicture = std::dynamic_pointer_cast<const SystemPicture>(picture);

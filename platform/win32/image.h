@@ -17,6 +17,7 @@ struct SystemPicture final : StoredPicture {
 class SystemImage final : public ControlOf<Image> {
  public:
   SystemImage(FormWindow& owner, const ControlLayout& row);
+  void create() override;
   void setPicture(std::shared_ptr<const StoredPicture> picture) override;
   void takePicture(std::shared_ptr<const StoredPicture> picture) override;
   void setTop(Twips top) override;

@@ -11,9 +11,9 @@ namespace nerida {
 
 // Without a notification style the system's label lets clicks through to what is below, which is what we want of it as
 // long as nobody asks for its own. On a dialog a label is one line, and shows where a long text goes on.
-SystemLabel::SystemLabel(FormWindow& owner, const ControlLayout& row) : ControlOf(owner, row) {
-  const DWORD cut = owner.isDialog() ? SS_ENDELLIPSIS : 0U;
-  createStandard(L"STATIC", wide(row.text).c_str(), SS_LEFT | SS_NOPREFIX | cut, 0);
+void SystemLabel::create() {
+  const DWORD cut = form().isDialog() ? SS_ENDELLIPSIS : 0U;
+  createStandard(L"STATIC", wide(layout().text).c_str(), SS_LEFT | SS_NOPREFIX | cut, 0);
 }
 
 void SystemLabel::setCaption(const std::string& text) { SetWindowTextW(window(), wide(text).c_str()); }

@@ -7,7 +7,8 @@ namespace nerida {
 
 class SystemLabel final : public ControlOf<Label> {
  public:
-  SystemLabel(FormWindow& owner, const ControlLayout& row);
+  using ControlOf::ControlOf;
+  void create() override;
   void setCaption(const std::string& text) override;
   void setBackground(Rgb color) override;
 

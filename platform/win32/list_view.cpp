@@ -21,7 +21,7 @@ constexpr std::uint32_t barelyVisible = 0x01000000;
 
 }  // namespace
 
-SystemListView::SystemListView(FormWindow& owner, const ControlLayout& row) : ControlOf(owner, row) {
+void SystemListView::create() {
   constexpr DWORD style =
       LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS;
   createStandard(WC_LISTVIEWW, accessibleName().c_str(), style, WS_EX_CLIENTEDGE);

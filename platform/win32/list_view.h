@@ -15,7 +15,8 @@ namespace nerida {
 // The items stay here; the system's list asks for those that it shows.
 class SystemListView final : public ControlOf<ListView> {
  public:
-  SystemListView(FormWindow& owner, const ControlLayout& row);
+  using ControlOf::ControlOf;
+  void create() override;
 
   void setSmallIcons(const std::string& folder, const std::string& file, std::span<const char* const> specs) override;
   void clear() override;

@@ -12,6 +12,11 @@ namespace nerida {
 
 NativeControl::NativeControl(FormWindow& owner, const ControlLayout& row) : parent(owner), place(row) {}
 
+HWND NativeControl::window() const {
+  if (!exists()) parent.handle();
+  return handle;
+}
+
 std::wstring NativeControl::accessibleName() const {
   if (*place.tooltip != '\0') return wide(place.tooltip);
   constexpr std::array named = {ControlKind::listView, ControlKind::preview, ControlKind::image,
@@ -24,7 +29,7 @@ HWND NativeControl::createWindow(const wchar_t* windowClass, const wchar_t* text
                                  int height, void* parameter) {
   const RECT at = area();
   const HWND window = CreateWindowExW(extendedStyle | WS_EX_NOPARENTNOTIFY, windowClass, text,
-                                      style | WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, at.left, at.top,
+                                      style | WS_CHILD | (shown ? WS_VISIBLE : 0U) | WS_CLIPSIBLINGS, at.left, at.top,
                                       at.right - at.left, height != 0 ? height : at.bottom - at.top,
                                       parent.windowAround(place), nullptr, moduleInstance(), parameter);
   if (window == nullptr) throw Error(error::outOfMemory);
@@ -64,7 +69,7 @@ RECT NativeControl::area() const { return parent.place(place); }
 
 bool NativeControl::isReachable(POINT point) const {
   const RECT at = area();
-  return handle != nullptr && parent.controlAt({at.left + point.x, at.top + point.y}) == this;
+  return exists() && parent.controlAt({at.left + point.x, at.top + point.y}) == this;
 }
 
 void NativeControl::detach() { handle = nullptr; }

@@ -12,7 +12,8 @@ namespace nerida {
 class FormWindow;
 
 // What the controls of a form have in common: a child window whose messages come here, be it one of our classes or
-// one of the system's that we stand in front of. The form owns the object and destroys the window.
+// one of the system's that we stand in front of. The form owns the object, and makes and destroys the window. What a
+// control keeps for itself, as its events or the buttons of a bar, it can be told before it has one.
 class NativeControl {
  public:
   NativeControl(FormWindow& owner, const ControlLayout& row);
@@ -20,7 +21,9 @@ class NativeControl {
   NativeControl(const NativeControl&) = delete;
   NativeControl& operator=(const NativeControl&) = delete;
 
-  HWND window() const { return handle; }
+  virtual void create() = 0;                         // the window
+  HWND window() const;                               // for which all of the form's are made if there are none yet
+  bool exists() const { return handle != nullptr; }  // whether there is a window
   FormWindow& form() const { return parent; }
   const ControlLayout& layout() const { return place; }
   // What assistive tools call it: the tooltip; else the text of a control that does not show it; else the name.

@@ -11,16 +11,14 @@
 
 namespace nerida {
 
-SystemPictureBox::SystemPictureBox(FormWindow& owner, const ControlLayout& row) : ControlOf(owner, row) {
-  createOwn(pictureBoxClass, WS_CLIPCHILDREN);
-}
+void SystemPictureBox::create() { createOwn(pictureBoxClass, WS_CLIPCHILDREN); }
 
 SystemPictureBox::~SystemPictureBox() {
   if (accessible != nullptr) accessible->disconnect();
 }
 
 void SystemPictureBox::repaint() {
-  if (IsWindowVisible(window())) InvalidateRect(window(), nullptr, FALSE);
+  if (exists() && IsWindowVisible(window())) InvalidateRect(window(), nullptr, FALSE);
 }
 
 void SystemPictureBox::setFocus() { SetFocus(window()); }

@@ -10,7 +10,8 @@ namespace nerida {
 
 class SystemPictureBox final : public ControlOf<PictureBox>, private ControlParts {
  public:
-  SystemPictureBox(FormWindow& owner, const ControlLayout& row);
+  using ControlOf::ControlOf;
+  void create() override;
   ~SystemPictureBox() override;
   void repaint() override;
   void setFocus() override;

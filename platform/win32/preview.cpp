@@ -16,9 +16,7 @@ constexpr const wchar_t* watcherName = L"NeridaPreview";
 
 }  // namespace
 
-SystemPreview::SystemPreview(FormWindow& owner, const ControlLayout& row) : ControlOf(owner, row) {
-  createOwn(pictureBoxClass, WS_CLIPCHILDREN);
-}
+void SystemPreview::create() { createOwn(pictureBoxClass, WS_CLIPCHILDREN); }
 
 SystemPreview::~SystemPreview() { stopWatching(); }
 

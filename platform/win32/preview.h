@@ -14,7 +14,8 @@ namespace nerida {
 // loop that dispatches our messages knows nothing of either.
 class SystemPreview final : public ControlOf<Preview> {
  public:
-  SystemPreview(FormWindow& owner, const ControlLayout& row);
+  using ControlOf::ControlOf;
+  void create() override;
   ~SystemPreview() override;
 
   std::string modelFile() override { return toText(object()->get("ModelFile")); }

@@ -5,8 +5,8 @@
 
 namespace nerida {
 
-SystemPushButton::SystemPushButton(FormWindow& owner, const ControlLayout& row) : ControlOf(owner, row) {
-  createStandard(L"BUTTON", wide(row.text).c_str(), BS_PUSHBUTTON | BS_NOTIFY, 0);
+void SystemPushButton::create() {
+  createStandard(L"BUTTON", wide(layout().text).c_str(), BS_PUSHBUTTON | BS_NOTIFY, 0);
 }
 
 bool SystemPushButton::takesFocus() const {

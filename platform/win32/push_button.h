@@ -6,7 +6,8 @@ namespace nerida {
 
 class SystemPushButton final : public ControlOf<Button> {
  public:
-  SystemPushButton(FormWindow& owner, const ControlLayout& row);
+  using ControlOf::ControlOf;
+  void create() override;
 
  private:
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

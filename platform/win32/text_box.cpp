@@ -9,9 +9,7 @@
 
 namespace nerida {
 
-SystemTextBox::SystemTextBox(FormWindow& owner, const ControlLayout& row) : ControlOf(owner, row) {
-  createStandard(L"EDIT", wide(row.text).c_str(), ES_AUTOHSCROLL, WS_EX_CLIENTEDGE);
-}
+void SystemTextBox::create() { createStandard(L"EDIT", wide(layout().text).c_str(), ES_AUTOHSCROLL, WS_EX_CLIENTEDGE); }
 
 std::string SystemTextBox::text() const {
   std::wstring content(static_cast<std::size_t>(GetWindowTextLengthW(window())), L'\0');

@@ -6,7 +6,8 @@ namespace nerida {
 
 class SystemTextBox final : public ControlOf<TextBox> {
  public:
-  SystemTextBox(FormWindow& owner, const ControlLayout& row);
+  using ControlOf::ControlOf;
+  void create() override;
 
   std::string text() const override;
   void setText(const std::string& text) override;

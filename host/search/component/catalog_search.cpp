@@ -128,7 +128,7 @@ class CatalogSearch::Conversation {
     throw MemberError{failure.number, std::string(describe(failure.fault)) + ": " + database};
   }
 
-  EngineLibrary library;
+  const EngineLibrary& library = EngineLibrary::loaded();
   std::string database;
   std::string first = std::string(1024, '\0'), second = first;
 };
@@ -153,6 +153,6 @@ CategoryList CatalogSearch::categories() {
   return list;
 }
 
-std::int32_t CatalogSearch::testEngine(std::int32_t number) { return EngineLibrary().addOneTest(number); }
+std::int32_t CatalogSearch::testEngine(std::int32_t number) { return EngineLibrary::loaded().addOneTest(number); }
 
 }  // namespace nerida::host

@@ -14,6 +14,11 @@ constexpr int cannotCreateObject = 429;
 
 }  // namespace
 
+const EngineLibrary& EngineLibrary::loaded() {
+  static const EngineLibrary library;
+  return library;
+}
+
 EngineLibrary::EngineLibrary() {
   const std::filesystem::path file = std::filesystem::path(modulePath()).replace_filename("KwSearchDll.dll");
   module.reset(LoadLibraryExW(file.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH));

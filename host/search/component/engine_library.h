@@ -11,8 +11,9 @@ namespace nerida::host {
 /// KwSearchDll.dll, loaded from the folder in which this module lies. Each entry has the type of its declaration.
 class EngineLibrary {
  public:
-  /// Throws MemberError when it, or one of its entries, is not there.
-  EngineLibrary();
+  /// Loading it takes longer than most questions: it stays as long as this module. Throws MemberError while it, or one
+  /// of its entries, is not there.
+  static const EngineLibrary& loaded();
 
   decltype(&::AddOneTest) addOneTest;
   decltype(&::OpenSearchEngine) openSearchEngine;
@@ -28,6 +29,8 @@ class EngineLibrary {
   decltype(&::GetNextCategory) getNextCategory;
 
  private:
+  EngineLibrary();
+
   struct Free {
     void operator()(HMODULE module) const { FreeLibrary(module); }
   };
