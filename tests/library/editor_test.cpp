@@ -161,7 +161,7 @@ TEST_P(InterruptedAdding, IsBroughtToAnEndByTheNextEditor) {
   add(5);
   EXPECT_THROW(LibraryEditor(places(), failingAfter(GetParam().after)).add(card(50000), box), PowerFailure);
   EXPECT_TRUE(hasUnfinishedChange(places().models));
-  LibraryEditor{places()};
+  const LibraryEditor next(places());
   EXPECT_FALSE(hasUnfinishedChange(places().models));
   EXPECT_EQ(numbers(), GetParam().done ? (Numbers{5, 50000}) : Numbers{5});
   EXPECT_EQ(checkLibrary(places()), std::vector<std::string>());
@@ -177,7 +177,7 @@ TEST_P(InterruptedRemoving, IsBroughtToAnEndByTheNextEditor) {
   add(5);
   add(50000);
   EXPECT_THROW(LibraryEditor(places(), failingAfter(GetParam().after)).remove(50000), PowerFailure);
-  LibraryEditor{places()};
+  const LibraryEditor next(places());
   EXPECT_EQ(numbers(), GetParam().done ? Numbers{5} : (Numbers{5, 50000}));
   EXPECT_EQ(checkLibrary(places()), std::vector<std::string>());
 }

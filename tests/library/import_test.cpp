@@ -14,8 +14,6 @@
 namespace nerida::library {
 namespace {
 
-namespace fs = std::filesystem;
-
 Model modelOf(const std::string& bytes) {
   return Model::parse({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()});
 }
@@ -115,7 +113,7 @@ TEST_F(Import, PicturesInOtherFilesAreNamed) {
       writeGlb(buildModel(readRecipe("model 1 Box\nin C, S\nwords a\nbox 1,2,3 #808080\n", "box", {}), "box"));
   const std::size_t at = box.find(R"("asset":{)");
   ASSERT_NE(at, std::string::npos);
-  const std::size_t size = box.find("}", at) + 1 - at;
+  const std::size_t size = box.find('}', at) + 1 - at;
   std::string asset = R"("asset":{"version":"2.0"},"images":[{"uri":"a"}])";
   ASSERT_LE(asset.size(), size);
   asset.resize(size, ' ');

@@ -200,7 +200,9 @@ TEST_F(ObjImport, DetailSurvivesFarFromTheOriginAndAtAnySize) {
     }
     if (size != 1) {
       const std::string unit = size > 1 ? "e300" : "e-9";
-      text = "v 0 0 0\nv 1" + unit + " 0 0\nv 1" + unit + " 0.01" + unit + " 0\nv 0 1" + unit + " 0\n";
+      text = "v 0 0 0\nv 1";
+      text.append(unit).append(" 0 0\nv 1").append(unit).append(" 0.01").append(unit).append(" 0\nv 0 1");
+      text.append(unit).append(" 0\n");
     }
     Model model = modelOf(import(text + "f 1 2 3 4\n"));
     const nerida::Mesh& mesh = model.meshAt(0);

@@ -134,6 +134,7 @@ TEST_F(Tool, SeveralAtOnceWaitForEachOtherWhileSomebodySearches) {
   ASSERT_EQ(run("add " + obj() + library()), 0);
   constexpr int tools = 3, models = 6;
   std::vector<std::future<int>> running;
+  running.reserve(tools);
   for (int i = 0; i < tools; ++i) {
     running.push_back(std::async(std::launch::async, [this] {
       int failures = 0;

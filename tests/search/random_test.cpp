@@ -18,6 +18,7 @@ std::set<std::int32_t> numbersOf(const std::vector<Hit>& hits) {
 
 std::vector<ModelCard> numbered(const std::vector<std::int32_t>& numbers) {
   std::vector<ModelCard> cards;
+  cards.reserve(numbers.size());
   for (const std::int32_t number : numbers) cards.push_back(card(number, "Thing " + std::to_string(number)));
   return cards;
 }

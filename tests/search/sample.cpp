@@ -10,12 +10,14 @@ ModelCard card(std::int32_t number, const std::string& name, const std::vector<s
 
 std::vector<ModelCard> numberedCards(std::int32_t count) {
   std::vector<ModelCard> cards;
+  cards.reserve(static_cast<std::size_t>(count));
   for (std::int32_t i = 1; i <= count; ++i) cards.push_back(card(i, "Thing " + std::to_string(i)));
   return cards;
 }
 
 std::vector<std::string> namesOf(const std::vector<Hit>& hits) {
   std::vector<std::string> names;
+  names.reserve(hits.size());
   for (const Hit& hit : hits) names.push_back(hit.name);
   return names;
 }
