@@ -51,6 +51,7 @@ int pumpMessages(HWND window, HACCEL accelerators) {
 
 int run(HINSTANCE program, int show) {
   const Options options = commandLine();
+  if (options.rightToLeft) SetProcessDefaultLayout(LAYOUT_RTL);
   const Ole ole;
   DocumentWindow document(program, screenMetrics());
   document.create(options);

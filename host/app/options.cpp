@@ -21,8 +21,8 @@ Options readOptions(std::span<wchar_t* const> words) {
   Options options;
   for (std::size_t i = 0; i < words.size(); ++i) {
     const std::wstring word = words[i];
-    if (word == L"--activate") {
-      options.activate = true;
+    if (word == L"--activate" || word == L"--right-to-left") {
+      (word == L"--activate" ? options.activate : options.rightToLeft) = true;
       continue;
     }
     if (word != L"--model" && word != L"--log" && word != L"--place") {

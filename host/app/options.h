@@ -18,6 +18,7 @@ struct Options {
   std::optional<std::filesystem::path> log;
   std::optional<Place> place;
   bool activate = false;
+  bool rightToLeft = false;  // all windows, as for languages that are written so
 };
 
 class OptionError : public std::runtime_error {

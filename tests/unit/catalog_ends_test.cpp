@@ -6,6 +6,7 @@ namespace nerida {
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 class CatalogEnds : public CatalogTest {};
 

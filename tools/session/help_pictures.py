@@ -16,9 +16,9 @@ SETTLE = 0.8  # seconds, until hover and tooltips have come
 
 
 class Help(Tour):
-    def __init__(self, model, folder, dpi):
+    def __init__(self, model, folder, dpi, options):
         side = SIDE * dpi // 96
-        super().__init__(model, (*CORNER, side, side))
+        super().__init__(model, (*CORNER, side, side), options=options)
         self.folder = folder
 
     def take(self, name, *areas):
@@ -91,8 +91,8 @@ def catalog(tour):
 
 
 def main():
-    model, folder, dpi = sys.argv[1], Path(sys.argv[2]), int(sys.argv[3])
-    with Help(model, folder, dpi) as tour:
+    model, folder, dpi, *options = sys.argv[1:]
+    with Help(model, Path(folder), int(dpi), options) as tour:
         tour.activate()
         toolbar(tour)
         popups(tour)

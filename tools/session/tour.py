@@ -15,9 +15,9 @@ QUIET = ("get ", "GetLightDirection")
 
 
 class Tour:
-    def __init__(self, model, place=(140, 60, 900, 720), steps_before=0):
+    def __init__(self, model, place=(140, 60, 900, 720), steps_before=0, options=()):
         self.probe = Probe()
-        self.host = Host(model, place=place)
+        self.host = Host(model, place=place, options=options)
         self.document = self.probe.window("Zephra Document", timeout=30)
         self.step = steps_before
 

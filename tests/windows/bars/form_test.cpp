@@ -1,6 +1,8 @@
 // Forms as windows: lists, hooks, modal loops, menus, and what is left when they are gone.
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
+#include <utility>
 
 #include "platform/win32/window_class.h"
 #include "tests/windows/bars/fixture.h"
@@ -90,6 +92,43 @@ TEST_F(Forms, ShowWholeRowsUnderAHighCaption) {
   EXPECT_EQ(controlsInSight(*pressedTogether), 13);
   pressedTogether->setHeight(unfoldedHeight - lost);
   EXPECT_EQ(controlsInSight(*pressedTogether), static_cast<int>(tight.controls.size()));
+}
+
+BOOL CALLBACK countMirrored(HWND window, LPARAM count) {
+  *reinterpret_cast<int*>(count) += (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0 ? 1 : 0;
+  return TRUE;
+}
+
+// What is left and right on them is so in space.
+TEST_F(Forms, AreNotMirroredWithTheirProgram) {
+  SetProcessDefaultLayout(LAYOUT_RTL);
+  const std::shared_ptr<Window> other = makeToolbarSample(factory, folder);
+  other->showTopmostAt({40, 60});
+  SetProcessDefaultLayout(0);
+  const HWND mirrored = reinterpret_cast<HWND>(other->handle());
+  RECT frame = {};
+  GetWindowRect(mirrored, &frame);
+  POINT origin = {};
+  ClientToScreen(mirrored, &origin);
+  EXPECT_LT(origin.x, (frame.left + frame.right) / 2);
+  int count = 0;
+  EnumChildWindows(mirrored, countMirrored, reinterpret_cast<LPARAM>(&count));
+  EXPECT_EQ(count, 0);
+}
+
+TEST_F(Forms, KeepLettersThatTheirLayoutHasRoomFor) {
+  NONCLIENTMETRICSW metrics = {};
+  metrics.cbSize = sizeof metrics;
+  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+  const LONG usual = std::exchange(metrics.lfMessageFont.lfHeight, -40);
+  SystemParametersInfoW(SPI_SETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+  const std::shared_ptr<Window> other = makeToolbarSample(factory, folder);
+  const HWND field = FindWindowExW(reinterpret_cast<HWND>(other->handle()), nullptr, L"EDIT", nullptr);
+  metrics.lfMessageFont.lfHeight = usual;
+  SystemParametersInfoW(SPI_SETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+  LOGFONTW font = {};
+  ASSERT_NE(GetObjectW(reinterpret_cast<HFONT>(SendMessageW(field, WM_GETFONT, 0, 0)), sizeof font, &font), 0);
+  EXPECT_EQ(std::abs(font.lfHeight), std::lround(12 * screenDpi() / 96));
 }
 
 TEST_F(Forms, HookOnceAndUnhookOnce) {
