@@ -1,6 +1,7 @@
 // Puts the registry in order for a client that cannot do it itself: installation_tool install|remove CONTROL
 
 #include <cstring>
+#include <memory>
 
 #include "tests/windows/com/installation.h"
 #include "tests/windows/com/module_file.h"
@@ -13,6 +14,6 @@ int main(int count, char** arguments) {
     const nerida::Installation gone;
     return FAILED(module.call("DllUnregisterServer"));
   }
-  new nerida::Installation();  // stays, until "remove"
+  static_cast<void>(std::make_unique<nerida::Installation>().release());  // stays, until "remove"
   return FAILED(module.call("DllRegisterServer"));
 }

@@ -285,8 +285,8 @@ TEST_F(SearchComponent, ReadsTheUsersOwnInstallationWhereTheMachineHasNone) {
   const std::filesystem::path folder = files.path() / L"\u0142\u00f3d\u017a";
   search::buildDatabase(folder, {{1, "Sailing Boat", "Transport", "Ships", {"water"}, false}});
   const HiddenInstallation hidden;
-  RegSetKeyValueW(HKEY_CURRENT_USER, own, L"Dictionary", REG_SZ, folder.c_str(),
-                  static_cast<DWORD>((folder.wstring().size() + 1) * sizeof(wchar_t)));
+  const auto length = static_cast<DWORD>(folder.wstring().size() + 1);
+  RegSetKeyValueW(HKEY_CURRENT_USER, own, L"Dictionary", REG_SZ, folder.c_str(), length * DWORD{sizeof(wchar_t)});
   EXPECT_EQ(namesFor(L"boat").size(), 1U);
   RegDeleteKeyW(HKEY_CURRENT_USER, own);
   RegDeleteKeyW(HKEY_CURRENT_USER, L"Software\\Tarnwell");
