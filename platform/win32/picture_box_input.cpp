@@ -105,10 +105,9 @@ void SystemPictureBox::relayTooltip(UINT message, WPARAM wParam, LPARAM lParam) 
 void SystemPictureBox::offerTooltip(POINT point) {
   const int part = partAt(point);
   const std::wstring name = part >= 0 ? partTooltip(part) : parts ? std::wstring() : tooltip;
-  if (part == offeredPart && name == offeredName) return;
+  if (part != offeredPart || name != offeredName) form().tooltips().forget(window());
   offeredPart = part;
   offeredName = name;
-  form().tooltips().forget(window());
   const SIZE extent = size();
   const RECT area = part >= 0 ? partArea(part) : RECT{0, 0, extent.cx, extent.cy};
   if (!name.empty()) form().tooltips().offer(window(), static_cast<unsigned>(part + 1), area, name);

@@ -28,6 +28,7 @@ HWND Tooltips::create() {
 void Tooltips::offer(HWND control, unsigned part, RECT area, const std::wstring& text) {
   under = {control, part};
   if (silent != under) silent.reset();
+  if (silent) return;
   if (!known.insert({control, part}).second) return;
   if (!window) window.reset(create());
   TTTOOLINFOW tool = describe(control, part);
@@ -38,7 +39,13 @@ void Tooltips::offer(HWND control, unsigned part, RECT area, const std::wstring&
 
 void Tooltips::relay(HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
   if (!window || (message == WM_MOUSEMOVE && silent)) return;
-  if (message == WM_LBUTTONDOWN) silent = under;
+  if (message == WM_LBUTTONDOWN) {
+    // Hidden alone, one that has been waiting to be shown would come up after the press: it is to find the pointer over
+    // nothing.
+    silent = under;
+    forget(control);
+    message = WM_MOUSEMOVE;
+  }
   MSG relayed = {};
   relayed.hwnd = control;
   relayed.message = message;
