@@ -8,6 +8,10 @@ Function WriteProductKeys
   WriteRegStr SHCTX "${PRODUCT_KEY}" "Styles" "$INSTDIR"
   WriteRegStr SHCTX "${PRODUCT_KEY}" "Help" "$INSTDIR"
   WriteRegStr SHCTX "${PRODUCT_KEY}" "LiveText" "${PRODUCT_TEXT}"
+  ReadRegStr $0 SHCTX "${PRODUCT_KEY}" "Expansion"
+  ${If} $0 == ""  ; with any content it leads to the page of expansions, and an expansion may have written its own
+    WriteRegStr SHCTX "${PRODUCT_KEY}" "Expansion" "$INSTDIR"
+  ${EndIf}
   WriteRegStr SHCTX "${VERSION_KEY}" "Models" "$INSTDIR\Models"
 FunctionEnd
 
@@ -20,6 +24,10 @@ Function un.RemoveProductKeys
   DeleteRegValue SHCTX "${PRODUCT_KEY}" "Styles"
   DeleteRegValue SHCTX "${PRODUCT_KEY}" "Help"
   DeleteRegValue SHCTX "${PRODUCT_KEY}" "LiveText"
+  ReadRegStr $0 SHCTX "${PRODUCT_KEY}" "Expansion"
+  ${If} $0 == $INSTDIR
+    DeleteRegValue SHCTX "${PRODUCT_KEY}" "Expansion"
+  ${EndIf}
   DeleteRegKey /ifempty SHCTX "${VERSION_KEY}"
   DeleteRegKey /ifempty SHCTX "${PRODUCT_KEY}"
   DeleteRegKey /ifempty SHCTX "Software\Tarnwell"

@@ -6,7 +6,6 @@ namespace nerida {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class CatalogEnds : public CatalogTest {};
 

@@ -248,7 +248,8 @@ class ForOnePerson(InstallerCase):
                    or not line[2:].startswith(("HKCU", "users/" + self.folder().split("\\")[2] + "/"))]
         self.assertEqual(foreign, [])
         paths = self.values(installed, "HKCU", PRODUCT)
-        self.assertEqual(paths['"Dictionary"'], f'"{escaped(self.folder())}"')
+        for name in ("Dictionary", "Expansion"):
+            self.assertEqual(paths[f'"{name}"'], f'"{escaped(self.folder())}"')
         self.assertEqual(self.values(installed, "HKCU", APPS)['"DisplayVersion"'], '"1.0.0"')
         self.assertFalse(self.prefix.path(self.folder() + r"\x64").exists())
 
