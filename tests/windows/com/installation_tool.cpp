@@ -1,7 +1,6 @@
 // Puts the registry in order for a client that cannot do it itself: installation_tool install|remove CONTROL
 
 #include <cstring>
-#include <memory>
 
 #include "tests/windows/com/installation.h"
 #include "tests/windows/com/module_file.h"
@@ -14,6 +13,6 @@ int main(int count, char** arguments) {
     const nerida::Installation gone;
     return FAILED(module.call("DllUnregisterServer"));
   }
-  static_cast<void>(std::make_unique<nerida::Installation>().release());  // stays, until "remove"
+  [[maybe_unused]] static const auto* const staysUntilRemoved = new nerida::Installation();
   return FAILED(module.call("DllRegisterServer"));
 }
