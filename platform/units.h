@@ -14,7 +14,7 @@ using WindowHandle = std::intptr_t;
 // A length in twips (1/1440 inch): the unit in which forms are laid out.
 struct Twips {
   std::int32_t value = 0;
-  friend constexpr auto operator<=>(Twips, Twips) = default;
+  friend constexpr auto operator<=>(Twips, Twips) = default;  // NOLINT(modernize-use-nullptr): there is no pointer
   friend constexpr Twips operator+(Twips a, Twips b) { return {a.value + b.value}; }
   friend constexpr Twips operator-(Twips a, Twips b) { return {a.value - b.value}; }
 };

@@ -5,7 +5,6 @@ namespace nerida {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 struct FlagsCase {
   Value flags;
