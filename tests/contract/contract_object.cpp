@@ -2,11 +2,9 @@
 
 #include <oaidl.h>
 
-#include <iterator>
-#include <string_view>
-
 #include "platform/win32/automation.h"
 #include "platform/win32/com.h"
+#include "tests/windows/counted_object.h"
 
 namespace nerida {
 namespace {
@@ -36,32 +34,17 @@ HRESULT increaseNumber(const VARIANTARG& target) {
   return S_OK;
 }
 
-class ContractObject : public IDispatch {
+class ContractObject final : public CountedObject<IDispatch> {
  public:
-  virtual ~ContractObject() = default;
-
   STDMETHODIMP QueryInterface(REFIID id, void** result) override {
     const bool known = id == IID_IUnknown || id == IID_IDispatch;
     *result = known ? this : nullptr;
     if (known) AddRef();
     return known ? S_OK : E_NOINTERFACE;
   }
-  STDMETHODIMP_(ULONG) AddRef() override { return ++references; }
-  STDMETHODIMP_(ULONG) Release() override {
-    const ULONG left = --references;
-    if (left == 0) delete this;
-    return left;
-  }
-  STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-  STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
 
   STDMETHODIMP GetIDsOfNames(REFIID, OLECHAR** asked, UINT, LCID, DISPID* ids) override {
-    for (DISPID id = name; id <= crash; ++id) {
-      if (std::wstring_view(asked[0]) != memberNames[id - 1]) continue;
-      *ids = id;
-      return S_OK;
-    }
-    return DISP_E_UNKNOWNNAME;
+    return findMember(memberNames, asked[0], ids);
   }
 
   STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
@@ -92,7 +75,6 @@ class ContractObject : public IDispatch {
   }
 
  private:
-  ULONG references = 1;
   Variant text;
   Variant value;
 };

@@ -6,6 +6,7 @@
 
 #include "platform/win32/com.h"
 #include "platform/win32/registry_handle.h"
+#include "tests/windows/counted_object.h"
 
 namespace nerida {
 namespace {
@@ -47,10 +48,8 @@ HRESULT refuseToLoad(EXCEPINFO* exception) {
 }
 
 // A control without a window: what a container cannot do without, and the members.
-class PlainPreview final : public IOleObject, public IDispatch {
+class PlainPreview final : public CountedObject<IOleObject, IDispatch> {
  public:
-  virtual ~PlainPreview() = default;
-
   STDMETHODIMP QueryInterface(REFIID id, void** result) override {
     *result = nullptr;
     if (id == IID_IUnknown || id == IID_IOleObject) *result = static_cast<IOleObject*>(this);
@@ -59,22 +58,9 @@ class PlainPreview final : public IOleObject, public IDispatch {
     AddRef();
     return S_OK;
   }
-  STDMETHODIMP_(ULONG) AddRef() override { return ++references; }
-  STDMETHODIMP_(ULONG) Release() override {
-    const ULONG left = --references;
-    if (left == 0) delete this;
-    return left;
-  }
 
-  STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-  STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
   STDMETHODIMP GetIDsOfNames(REFIID, OLECHAR** asked, UINT, LCID, DISPID* ids) override {
-    for (DISPID id = modelFile; id <= load; ++id) {
-      if (std::wstring_view(asked[0]) != previewNames[id - 1]) continue;
-      *ids = id;
-      return S_OK;
-    }
-    return DISP_E_UNKNOWNNAME;
+    return findMember(previewNames, asked[0], ids);
   }
   STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
                       EXCEPINFO* exception, UINT*) override {
@@ -119,7 +105,6 @@ class PlainPreview final : public IOleObject, public IDispatch {
   STDMETHODIMP SetColorScheme(LOGPALETTE*) override { return E_NOTIMPL; }
 
  private:
-  ULONG references = 1;
   Variant file;
   Variant name;
 };

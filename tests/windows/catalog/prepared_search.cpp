@@ -1,10 +1,10 @@
 #include "tests/windows/catalog/prepared_search.h"
 
-#include <atomic>
 #include <string>
 #include <vector>
 
 #include "platform/win32/com.h"
+#include "tests/windows/counted_object.h"
 
 namespace nerida {
 namespace {
@@ -70,10 +70,8 @@ HRESULT refusal() {
   return static_cast<HRESULT>(0x800A0201);  // error 513
 }
 
-class PreparedSearch final : public SearchInterface, public ISupportErrorInfo {
+class PreparedSearch final : public CountedObject<SearchInterface, ISupportErrorInfo> {
  public:
-  virtual ~PreparedSearch() = default;
-
   STDMETHODIMP QueryInterface(REFIID id, void** result) override {
     *result = nullptr;
     if (id == IID_IUnknown || id == IID_IDispatch || id == interfaceSearch) {
@@ -86,14 +84,6 @@ class PreparedSearch final : public SearchInterface, public ISupportErrorInfo {
     AddRef();
     return S_OK;
   }
-  STDMETHODIMP_(ULONG) AddRef() override { return ++references; }
-  STDMETHODIMP_(ULONG) Release() override {
-    const ULONG left = --references;
-    if (left == 0) delete this;
-    return left;
-  }
-  STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-  STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
   STDMETHODIMP GetIDsOfNames(REFIID, OLECHAR**, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
   STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
     return E_NOTIMPL;
@@ -123,9 +113,6 @@ class PreparedSearch final : public SearchInterface, public ISupportErrorInfo {
     *last = 2;
     return S_OK;
   }
-
- private:
-  std::atomic<ULONG> references = 1;
 };
 
 }  // namespace
